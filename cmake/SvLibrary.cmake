@@ -22,11 +22,15 @@ endfunction()
 # sv_add_test_folder(<folder> DEPS <targets...>)
 # One test executable per tests/ folder, registered with CTest.
 function(sv_add_test_folder folder)
-  cmake_parse_arguments(ARG "" "" "DEPS;ENV" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   set(target sv_${folder}_tests)
   add_executable(${target} ${sources})
   target_link_libraries(${target} PRIVATE ${ARG_DEPS} sv_test_support GTest::gtest GTest::gmock GTest::gtest_main)
+  # Tests find the source tree (data/, samples/) and the build tree (generated sample XML)
+  # through these two definitions.
+  target_compile_definitions(${target} PRIVATE SV_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+                                               SV_BINARY_DIR="${PROJECT_BINARY_DIR}")
   gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SV_SOURCE_DIR=${PROJECT_SOURCE_DIR};SV_BINARY_DIR=${PROJECT_BINARY_DIR};${ARG_ENV}")
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
