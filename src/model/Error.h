@@ -13,6 +13,7 @@ inline constexpr long InvalidCall = 5;           // "Invalid procedure call or a
 inline constexpr long SubscriptOutOfRange = 9;   // missing index or key
 inline constexpr long TypeMismatch = 13;
 inline constexpr long ObjectRequired = 424;
+inline constexpr long NotSupported = 438;        // the object lacks the member
 inline constexpr long DuplicateKey = 457;        // key already in a collection
 inline constexpr long FileNotFound = 53;
 inline constexpr long PathNotFound = 76;
