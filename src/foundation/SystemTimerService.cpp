@@ -6,7 +6,9 @@ namespace sv {
 
 SystemTimerService::SystemTimerService() = default;
 
-SystemTimerService::~SystemTimerService() = default;
+SystemTimerService::~SystemTimerService() {
+  for (const QPointer<QTimer>& timer : mSpent) delete timer.data();
+}
 
 QDateTime SystemTimerService::Now() const {
   return QDateTime::currentDateTime();
@@ -14,13 +16,16 @@ QDateTime SystemTimerService::Now() const {
 
 int SystemTimerService::SingleShot(int ms, std::function<void()> callback) {
   const int id = mNextId++;
+  std::erase_if(mSpent, [](const QPointer<QTimer>& timer) { return timer.isNull(); });
   auto timer = std::make_unique<QTimer>();
   timer->setSingleShot(true);
   QObject::connect(timer.get(), &QTimer::timeout, [this, id, callback = std::move(callback)] {
     // The timer is released later: it is still inside its own signal here.
     auto found = mTimers.find(id);
     if (found == mTimers.end()) return;
-    found->second.release()->deleteLater();
+    QTimer* spent = found->second.release();
+    spent->deleteLater();
+    mSpent.emplace_back(spent);
     mTimers.erase(found);
     // The callback may run a nested event loop; keep it apart from the timer's connection.
     const auto run = callback;

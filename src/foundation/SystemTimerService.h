@@ -2,10 +2,12 @@
 
 #include "foundation/TimerService.h"
 
+#include <QPointer>
 #include <map>
 #include <memory>
+#include <vector>
 
-class QTimer;
+#include <QTimer>
 
 namespace sv {
 
@@ -21,6 +23,8 @@ class SystemTimerService : public ITimerService {
  private:
   int mNextId = 1;
   std::map<int, std::unique_ptr<QTimer>> mTimers;
+  // Fired timers waiting for their deferred delete; freed here if the event loop never got to it.
+  std::vector<QPointer<QTimer>> mSpent;
 };
 
 }  // namespace sv
