@@ -121,11 +121,12 @@ class KeyedCollection {
     return indexOfKey(std::get<QString>(pos));
   }
   void removeAt(std::size_t at) {
+    if (!mEntries[at].key.isEmpty()) mIndex.remove(fold(mEntries[at].key));
     mEntries.erase(mEntries.begin() + static_cast<std::ptrdiff_t>(at));
-    reindexFrom(0);
+    reindexFrom(at);
   }
+  // Renumbers the keyed entries from a position on; those before it keep their place.
   void reindexFrom(std::size_t from) {
-    if (from == 0) mIndex.clear();
     for (std::size_t i = from; i < mEntries.size(); ++i)
       if (!mEntries[i].key.isEmpty()) mIndex.insert(fold(mEntries[i].key), i);
   }
