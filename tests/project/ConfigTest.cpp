@@ -332,19 +332,19 @@ TEST(ConfigTest, BrokenFilesAreReportedWithFileLineAndColumn) {
                     "  <definition key=\"Leaf\"/>\n"
                     "</definitionSet>\n"),
             bad +
-                "namespaces/sv.test.xml(4,5): The definition Root lists the child Twig, which "
+                "namespaces/sv.test.xml:4:5: The definition Root lists the child Twig, which "
                 "sv.test does not define.");
   EXPECT_EQ(failure("namespaces/sv.test.xml",
                     "<definitionSet version=\"1.0\" name=\"sv.test\" provider=\"memory\">\n"
                     "  <definition key=\"Root\" groupd=\"Roots\"/>\n"
                     "</definitionSet>\n"),
-            bad + "namespaces/sv.test.xml(2,3): The element <definition> has no attribute groupd.");
+            bad + "namespaces/sv.test.xml:2:3: The element <definition> has no attribute groupd.");
   EXPECT_EQ(failure("namespaces/sv.test.xml",
                     "<definitionSet version=\"1.0\" name=\"sv.test\" provider=\"memory\">\n"
                     "  <definition key=\"Root\" flags=\"rx\"/>\n"
                     "</definitionSet>\n"),
             bad +
-                "namespaces/sv.test.xml(2,3): The attribute flags may hold only the letters "
+                "namespaces/sv.test.xml:2:3: The attribute flags may hold only the letters "
                 "\"ftr\", not \"rx\".");
   EXPECT_EQ(failure("namespaces/sv.test.xml",
                     "<definitionSet version=\"1.0\" name=\"sv.test\">\n"
@@ -352,38 +352,38 @@ TEST(ConfigTest, BrokenFilesAreReportedWithFileLineAndColumn) {
                     "  <definition key=\"root\"/>\n"
                     "</definitionSet>\n"),
             bad +
-                "namespaces/sv.test.xml(2,3): The definition Root names no provider, nor does "
+                "namespaces/sv.test.xml:2:3: The definition Root names no provider, nor does "
                 "its set.");
   EXPECT_EQ(failure("namespaces/sv.test.xml",
                     "<definitionSet version=\"2.0\" name=\"sv.test\" provider=\"memory\"/>\n"),
             bad +
-                "namespaces/sv.test.xml(1,1): The file was written by a newer version of "
+                "namespaces/sv.test.xml:1:1: The file was written by a newer version of "
                 "Scrivara (format 2.0); this version reads format 1.x only.");
   EXPECT_EQ(failure("tags.xml",
                     "<tags version=\"1.0\">\n"
                     "  <tag id=\"##A\" name=\"A\n"
                     "</tags>\n"),
-            bad + "tags.xml(2,23): Error parsing element attribute");
+            bad + "tags.xml:2:23: Error parsing element attribute");
   EXPECT_EQ(failure("tags.xml",
                     "<tags version=\"1.0\">\n"
                     "  <tag id=\"##A\" name=\"A\" namespaces=\"t.leaf,t.twig\"/>\n"
                     "</tags>\n"),
             bad +
-                "tags.xml(2,3): The attribute namespaces names t.twig, which no definition "
+                "tags.xml:2:3: The attribute namespaces names t.twig, which no definition "
                 "set defines.");
   EXPECT_EQ(failure("tags.xml",
                     "<tags version=\"1.0\">\n"
                     "  <tag id=\"##A\" name=\"A\" namespaces=\"@leaves\"/>\n"
                     "</tags>\n"),
-            bad + "tags.xml(2,3): The list @leaves is not defined above.");
+            bad + "tags.xml:2:3: The list @leaves is not defined above.");
   EXPECT_EQ(failure("tags.xml",
                     "<tags version=\"1.0\">\n"
                     "  <tag id=\"##A\" name=\"A\"/>\n"
                     "  <tag id=\"##a\" name=\"Again\"/>\n"
                     "</tags>\n"),
-            bad + "tags.xml(3,3): The tag ##a is defined twice.");
+            bad + "tags.xml:3:3: The tag ##a is defined twice.");
   EXPECT_EQ(failure("tags.xml", "<tags version=\"1.0\">\n  <tag id=\"##A\"/>\n</tags>\n"),
-            bad + "tags.xml(2,3): The element <tag> needs a name attribute.");
+            bad + "tags.xml:2:3: The element <tag> needs a name attribute.");
   EXPECT_EQ(failure("elements.xml",
                     "<elements version=\"1.0\">\n"
                     "  <element name=\"e\">\n"
@@ -391,7 +391,7 @@ TEST(ConfigTest, BrokenFilesAreReportedWithFileLineAndColumn) {
                     "  </element>\n"
                     "</elements>\n"),
             bad +
-                "elements.xml(3,5): The attribute type must be one of text, list, date, color, "
+                "elements.xml:3:5: The attribute type must be one of text, list, date, color, "
                 "number, boolean, file, not \"colour\".");
   EXPECT_EQ(failure("elements.xml",
                     "<elements version=\"1.0\">\n"
@@ -399,12 +399,12 @@ TEST(ConfigTest, BrokenFilesAreReportedWithFileLineAndColumn) {
                     "    <attribute name=\"a\" type=\"list\" listType=\"values\"/>\n"
                     "  </element>\n"
                     "</elements>\n"),
-            bad + "elements.xml(3,5): A list of listType values needs its values.");
+            bad + "elements.xml:3:5: A list of listType values needs its values.");
   EXPECT_EQ(failure("elements.xml",
                     "<elements version=\"1.0\">\n"
                     "  <element name=\"e\">text</element>\n"
                     "</elements>\n"),
-            bad + "elements.xml(2,21): The element <element> holds no text.");
+            bad + "elements.xml:2:21: The element <element> holds no text.");
 
   {
     const ConfigFolder folder;

@@ -229,7 +229,7 @@ TEST_F(ProjectFileTest, MalformedFileNamesLineAndColumnAndStaysAsItWas) {
   writeFile(file, broken);
   Error error = errorOf([&] { ProjectReader::Load(file); });
   EXPECT_EQ(error.Number(), ErrorNumber::BadFileFormat);
-  EXPECT_EQ(error.Description(), file + "(4,5): Start-end tags mismatch");
+  EXPECT_EQ(error.Description(), file + ":4:5: Start-end tags mismatch");
   EXPECT_EQ(readFile(file), broken);
 
   writeFile(file,
@@ -240,25 +240,25 @@ TEST_F(ProjectFileTest, MalformedFileNamesLineAndColumnAndStaysAsItWas) {
             "</ScrivaraProject>\n");
   error = errorOf([&] { ProjectReader::Load(file); });
   EXPECT_EQ(error.Description(),
-            file + "(3,5): The attribute selected must be true or false, not \"maybe\".");
+            file + ":3:5: The attribute selected must be true or false, not \"maybe\".");
 
   writeFile(file,
             "<ScrivaraProject version=\"1.0\">\n"
             "  <Settings><Setting name=\"Locale\">German</Setting></Settings>\n"
             "</ScrivaraProject>\n");
   error = errorOf([&] { ProjectReader::Load(file); });
-  EXPECT_EQ(error.Description(), file + "(2,13): The setting Locale cannot be \"German\".");
+  EXPECT_EQ(error.Description(), file + ":2:13: The setting Locale cannot be \"German\".");
 
   writeFile(file, "<ScrivaraProject version=\"2.0\"/>\n");
   error = errorOf([&] { ProjectReader::Load(file); });
   EXPECT_EQ(error.Description(),
             file +
-                "(1,1): The file was written by a newer version of Scrivara (format 2.0); "
+                ":1:1: The file was written by a newer version of Scrivara (format 2.0); "
                 "this version reads format 1.x only.");
 
   writeFile(file, "<Project version=\"1.0\"/>\n");
   error = errorOf([&] { ProjectReader::Load(file); });
-  EXPECT_EQ(error.Description(), file + "(1,1): The root element must be <ScrivaraProject>.");
+  EXPECT_EQ(error.Description(), file + ":1:1: The root element must be <ScrivaraProject>.");
 
   error = errorOf([&] { ProjectReader::Load(path(QStringLiteral("missing.svproj"))); });
   EXPECT_EQ(error.Number(), ErrorNumber::FileNotFound);
@@ -327,7 +327,7 @@ TEST_F(ProjectFileTest, ContentFilesHoldTheCommentsOfTheirRoot) {
             "geo~Square\n  s1 ##SUMMARY [0   shown]: Four sides.");
   writeFile(path(QStringLiteral("circle.svc")), "<ScrivaraContent version=\"1.0\">\n<Item>");
   const Error error = errorOf([&] { ProjectReader::Load(path(QStringLiteral("geo.svproj"))); });
-  EXPECT_TRUE(error.Description().startsWith(path(QStringLiteral("circle.svc")) + "(2,"))
+  EXPECT_TRUE(error.Description().startsWith(path(QStringLiteral("circle.svc")) + ":2:"))
       << qPrintable(error.Description());
 }
 

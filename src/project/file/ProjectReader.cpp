@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "model/AdditionalFiles.h"
+#include "project/doxygen/CodeSources.h"
 #include "project/file/CommentXml.h"
 #include "project/file/ForeignXml.h"
 #include "project/file/ProjectXmlSchema.h"
@@ -29,9 +30,10 @@ class Reader {
   void ReadProject(const pugi::xml_node& root) {
     mForeign.Scan(
         root, QString(), {"version"},
-        {"Settings", "DocTypes", "NamespaceExclusions", "ElementNamespaces", "Variables",
-         "AdditionalFiles", "ContentFiles", "ExcludeFilters", "IgnoreRelationships", "DiagramStyle",
-         "CommentOptions", "Community", "ModelCommentProfiles", "Comments"});
+        {"CodeSource", "Settings", "DocTypes", "NamespaceExclusions", "ElementNamespaces",
+         "Variables", "AdditionalFiles", "ContentFiles", "ExcludeFilters", "IgnoreRelationships",
+         "DiagramStyle", "CommentOptions", "Community", "ModelCommentProfiles", "Comments"});
+    readCodeSource(root.child("CodeSource"));
     readSettings(root.child("Settings"));
     readDocTypes(root.child("DocTypes"));
     readStrings(root.child("NamespaceExclusions"), "Exclude", *mProject.NamespaceExclusions());
@@ -63,6 +65,16 @@ class Reader {
   static QString keyOf(const pugi::xml_node& node, const QString& fallback) {
     const QString key = xml::Attribute(node, "key");
     return key.isEmpty() ? fallback : key;
+  }
+
+  void readCodeSource(const pugi::xml_node& node) {
+    if (!node) return;
+    mForeign.Scan(node, QStringLiteral("CodeSource"), {"provider", "xml", "root"}, {});
+    const sv::CodeSource source{mSource.Required(node, "provider"), mSource.Required(node, "xml"),
+                                xml::Attribute(node, "root")};
+    if (!CodeSources::Knows(source.provider))
+      mSource.Fail(node, QStringLiteral("The code provider %1 is unknown.").arg(source.provider));
+    mProject.setCodeSource(source);
   }
 
   void readSettings(const pugi::xml_node& section) {
@@ -270,6 +282,7 @@ std::shared_ptr<ProjectModel> ProjectReader::Load(const QString& path) {
     }
   }
   project->setFileName(QFileInfo(path).absoluteFilePath());
+  CodeSources::Open(project);
   project->setDirty(false);
   return project;
 }

@@ -42,6 +42,7 @@ class Writer {
       : mProject(project), mForeign(project.ForeignXml()) {}
 
   void WriteProject(pugi::xml_node root) {
+    writeCodeSource(root);
     writeSettings(root.append_child("Settings"));
     writeDocTypes(root.append_child("DocTypes"));
     writeStrings(root.append_child("NamespaceExclusions"), "Exclude",
@@ -95,6 +96,16 @@ class Writer {
 
   void writeItem(pugi::xml_node parent, const QString& name, const QString& prefix) {
     CommentXml::WriteItem(parent, name, *mProject.FindComments(name), mForeign, prefix);
+  }
+
+  void writeCodeSource(pugi::xml_node root) {
+    const sv::CodeSource& source = mProject.CodeSource();
+    if (source.IsEmpty()) return;
+    pugi::xml_node node = root.append_child("CodeSource");
+    xml::SetAttribute(node, "provider", source.provider);
+    xml::SetAttribute(node, "xml", source.xml);
+    if (!source.root.isEmpty()) xml::SetAttribute(node, "root", source.root);
+    restore(node, QStringLiteral("CodeSource"));
   }
 
   void writeSettings(pugi::xml_node section) {

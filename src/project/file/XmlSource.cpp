@@ -38,7 +38,7 @@ void XmlSource::Fail(const pugi::xml_node& node, const QString& message) const {
 void XmlSource::FailAt(std::ptrdiff_t offset, const QString& message) const {
   const auto [line, column] = LineAndColumn(mText, offset);
   Raise(ErrorNumber::BadFileFormat,
-        QStringLiteral("%1(%2,%3): %4").arg(mPath).arg(line).arg(column).arg(message));
+        QStringLiteral("%1:%2:%3: %4").arg(mPath).arg(line).arg(column).arg(message));
 }
 
 void XmlSource::CheckRoot(const char* rootName, int supportedMajor) const {

@@ -33,6 +33,12 @@ void ProjectModel::setSettingValue(Setting id, const QVariant& value) {
   *mDirty = true;
 }
 
+void ProjectModel::setCodeSource(const sv::CodeSource& value) {
+  if (mCodeSource == value) return;
+  mCodeSource = value;
+  *mDirty = true;
+}
+
 void ProjectModel::AddNamespaceProvider(const QString& name,
                                         std::shared_ptr<NamespaceProvider> provider) {
   if (mProviders.Contains(name)) mProviders.Remove(name);

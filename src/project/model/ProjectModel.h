@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "model/SVProject.h"
+#include "project/model/CodeSource.h"
 #include "project/model/ProjectSettings.h"
 
 namespace sv {
@@ -33,6 +34,10 @@ class ProjectModel : public SVProject {
   // The project file's full path; empty for a project never saved.
   QString FileName() const { return mFileName; }
   void setFileName(const QString& value) { mFileName = value; }
+
+  // Where the code comes from; the reader opens it when the project loads.
+  const sv::CodeSource& CodeSource() const { return mCodeSource; }
+  void setCodeSource(const sv::CodeSource& value);
 
   // Generic access to the settings, by the table.
   QVariant SettingValue(Setting id) const { return mValues[index(id)]; }
@@ -254,6 +259,7 @@ class ProjectModel : public SVProject {
   std::shared_ptr<bool> mDirty = std::make_shared<bool>(false);
   std::array<QVariant, kSettingCount> mValues;
   QString mFileName;
+  sv::CodeSource mCodeSource;
   bool mScanning = false;
   int mSourceProjectCount = 0;
   int mCompiledComponentCount = 0;
