@@ -1,0 +1,7 @@
+#include "comments/CommentPages.h"
+
+namespace sv {
+
+CommentPages::~CommentPages() = default;
+
+}  // namespace sv
