@@ -8,6 +8,7 @@
 #include "foundation/DumpValue.h"
 #include "foundation/ErrorTrap.h"
 #include "foundation/IgnoreErrors.h"
+#include "foundation/modProjectView.h"
 #include "model/AppSettings.h"
 #include "model/CodeItem.h"
 #include "model/ModelFactory.h"
@@ -287,8 +288,13 @@ PropertyList* CommentEditor::TagsList() {
                          {QStringLiteral("Value"), QStringLiteral("Value")}});
   mTagsList->AddButton(QStringLiteral("AddButton"), 101, QStringLiteral("Click to add this tag"));
   mTagsList->AddButton(QStringLiteral("DeleteButton"), 102, QStringLiteral("Delete Tag"));
-  mTagsList->setDescriptionVisible(true);
-  mTagsList->setDescriptionHeight(kDescriptionHeight);
+  // The description pane as the author last left it.
+  const QString pane = QStringLiteral("Layout\\DescriptionPane");
+  mTagsList->setDescriptionVisible(
+      GetAppValue(QStringLiteral("Visible"), 1, Conversion::Number, pane).toDouble() != 0);
+  mTagsList->setDescriptionHeight(static_cast<int>(
+      GetAppValue(QStringLiteral("Height"), kDescriptionHeight, Conversion::Number, pane)
+          .toDouble()));
   connect(mTagsList, &PropertyList::BeforeEdit, this, &CommentEditor::mTagsList_BeforeEdit);
   connect(mTagsList, &PropertyList::BeforeExtendedEdit, this,
           &CommentEditor::mTagsList_BeforeExtendedEdit);

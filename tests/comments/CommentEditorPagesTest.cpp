@@ -3,11 +3,13 @@
 
 #include "EditorFixture.h"
 #include "comments/CommentPages.h"
+#include "foundation/modProjectView.h"
 #include "model/CodeItem.h"
 #include "model/TaggedCommentDef.h"
 #include "ui/Dock.h"
 #include "ui/ExplorerBar.h"
 #include "ui/PropertyList.h"
+#include "support/TempSettings.h"
 #include "widgets/frmTipPopup.h"
 
 namespace sv::test {
@@ -118,6 +120,22 @@ TEST(CommentEditorPagesTest, PagesAreShownThroughTheSeam) {
   f.editor.setCurrentCodeElement(nullptr);
   EXPECT_EQ(pages->Take(), "HideAll");
   EXPECT_EQ(f.services.message->Count(), 0);
+}
+
+TEST(CommentEditorPagesTest, TheTagListOpensWithTheDescriptionPaneAsLastLeft) {
+  TempSettings settings;
+  {
+    EditorFixture f;
+    PropertyList* list = f.editor.TagsList();
+    EXPECT_TRUE(list->DescriptionVisible());
+    EXPECT_EQ(list->DescriptionHeight(), 49);
+  }
+  SetAppValue(QStringLiteral("Visible"), false, QStringLiteral("Layout\\DescriptionPane"));
+  SetAppValue(QStringLiteral("Height"), 80, QStringLiteral("Layout\\DescriptionPane"));
+  EditorFixture f;
+  PropertyList* list = f.editor.TagsList();
+  EXPECT_FALSE(list->DescriptionVisible());
+  EXPECT_EQ(list->DescriptionHeight(), 80);
 }
 
 }  // namespace

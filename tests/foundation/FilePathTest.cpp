@@ -1,6 +1,6 @@
 #include "foundation/FilePath.h"
 
-#include "TempSettings.h"
+#include "support/TempSettings.h"
 #include "model/Error.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "foundation/modProjectView.h"
 
-#include "TempSettings.h"
+#include "support/TempSettings.h"
 #include "foundation/ErrorReport.h"
 #include "foundation/ReportObjectRegistry.h"
 #include "foundation/SpellingEngine.h"
