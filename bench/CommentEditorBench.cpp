@@ -5,6 +5,7 @@
 
 #include "comments/CommentEditor.h"
 #include "model/TaggedComments.h"
+#include "project/core/Definition.h"
 #include "project/core/DefinitionSet.h"
 #include "project/core/MemoryAppSettings.h"
 #include "project/core/ModelItem.h"
