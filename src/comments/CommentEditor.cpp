@@ -3,8 +3,13 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "comments/CommentEditorHost.h"
 #include "comments/CommentPages.h"
+#include "comments/DesignerContainer.h"
+#include "comments/DesignerControl.h"
+#include "comments/DesignerRegistry.h"
 #include "comments/ElementFacts.h"
+#include "comments/designers/HtmlEditDesigner.h"
 #include "foundation/DumpValue.h"
 #include "foundation/ErrorTrap.h"
 #include "foundation/IgnoreErrors.h"
@@ -44,7 +49,13 @@ CommentEditor::CommentEditor(QObject* parent)
       mDock(new Dock(this)),
       mImages(new ImageList(this)),
       mFacts(std::make_shared<ElementFacts>()),
-      mPages(std::make_shared<CommentPages>()) {
+      mPages(std::make_shared<CommentPages>()),
+      mDesignerContainer(new sv::DesignerContainer(this)),
+      mHTMLEdit(mDesignerContainer->Add(QStringLiteral("HTMLEdit"),
+                                        std::make_shared<HtmlEditDesigner>())),
+      mDesignerRegistry(DesignerRegistry::WithDefaults()),
+      mHost(std::make_unique<CommentEditorHost>(*this)) {
+  mDesignerContainer->setObjectName(QStringLiteral("DesignerContainer"));
   mEb->setObjectName(QStringLiteral("eb"));
   mDock->setObjectName(QStringLiteral("DockCommentTypes"));
   mEb->setImageList(mImages);
@@ -61,6 +72,8 @@ CommentEditor::CommentEditor(QObject* parent)
   connect(mDock, &Dock::CommandClick, this, &CommentEditor::DockCommentTypes_CommandClick);
   connect(mDock, &Dock::PopupWindowShowing, this,
           &CommentEditor::DockCommentTypes_PopupWindowShowing);
+  connect(mDesignerContainer, &DesignerContainer::Resize, this,
+          &CommentEditor::DesignerContainer_Resize);
 }
 
 CommentEditor::~CommentEditor() = default;
@@ -71,7 +84,8 @@ QString CommentEditor::DumpMembers() const {
       {"CurrentRootItem", DumpVariant::Object(mCurrentRootItem, QStringLiteral("CodeItem"))},
       {"CancelSpellCheck", mCancelSpellCheck},
       {"mShowCombo", mShowCombo},
-      {"mCurrentNamespaceDef", DumpVariant::Object(mCurrentNamespaceDef, QStringLiteral("NamespaceDef"))},
+      {"mCurrentNamespaceDef",
+       DumpVariant::Object(mCurrentNamespaceDef, QStringLiteral("NamespaceDef"))},
       {"mNamespaceChanged", mNamespaceChanged},
       {"mEditInFocus", mEditInFocus},
       {"mForceChange", mForceChange},
@@ -82,7 +96,8 @@ QString CommentEditor::DumpMembers() const {
       {"mDesignFlag", mDesignFlag},
       {"mModules", DumpVariant::List(mModules)},
       {"mProjectName", mProjectName},
-      {"ActiveTaggedCommentDef", DumpVariant::Object(mActiveTaggedCommentDef, QStringLiteral("TaggedCommentDef"))},
+      {"ActiveTaggedCommentDef",
+       DumpVariant::Object(mActiveTaggedCommentDef, QStringLiteral("TaggedCommentDef"))},
       {"mNoSetFocus", mNoSetFocus},
       {"mInPlaceTemplate", DumpVariant::Object(mInPlaceTemplate, QStringLiteral("Template"))},
       {"mBaseURL", mBaseURL},
@@ -99,6 +114,10 @@ QString CommentEditor::DumpMembers() const {
       {"mPopulating", mPopulating},
       {"mInitialized", mInitialized},
       {"mTagsList", mTagsList ? DumpVariant::Object("PropertiesList") : DumpVariant::Nothing()},
+      {"ActiveDesigner", DumpVariant::Object(mActiveDesigner, QStringLiteral("IContentDesigner"))},
+      {"mWrapper", mWrapper ? DumpVariant::Object("RefreshWrapper") : DumpVariant::Nothing()},
+      {"CreatedDesigners",
+       DumpVariant::List(QStringList(mCreatedDesigners.begin(), mCreatedDesigners.end()))},
   });
 }
 
@@ -147,11 +166,13 @@ void CommentEditor::setCommentType(long value) {
 }
 
 void CommentEditor::setDirty(bool value) {
-  Trap(this, "Dirty", [&] {
-    if (value == mDirty) return;
-    mDirty = value;
-    emit DirtyStateChanged();
-  }, {{"Value", value}});
+  Trap(this, "Dirty",
+       [&] {
+         if (value == mDirty) return;
+         mDirty = value;
+         emit DirtyStateChanged();
+       },
+       {{"Value", value}});
 }
 
 QString CommentEditor::TitleCaption() const {
@@ -177,11 +198,13 @@ void CommentEditor::setSVProject(std::shared_ptr<sv::SVProject> value) {
 }
 
 void CommentEditor::setShowCombo(bool value) {
-  Trap(this, "ShowCombo", [&] {
-    mShowCombo = value;
-    mDock->Band(QLatin1String(ToolbarBand))->setVisible(value);
-    mEb->setVisible(!value);
-  }, {{"Value", value}});
+  Trap(this, "ShowCombo",
+       [&] {
+         mShowCombo = value;
+         mDock->Band(QLatin1String(ToolbarBand))->setVisible(value);
+         mEb->setVisible(!value);
+       },
+       {{"Value", value}});
 }
 
 std::shared_ptr<Template> CommentEditor::InPlaceTemplate() const {
@@ -243,14 +266,16 @@ void CommentEditor::InitControl() {
 void CommentEditor::Load(std::shared_ptr<NamespaceDef> namespaceDef, std::shared_ptr<CodeItem> item,
                          std::shared_ptr<CodeItem> rootItem, const QString& titleIcon,
                          const QString& titleCaption) {
-  Trap(this, "Load", [&] {
-    setCurrentNamespaceDef(std::move(namespaceDef));
-    mCurrentRootItem = std::move(rootItem);
-    setCurrentCodeElement(std::move(item));
-    setTitleCaption(titleCaption);
-    setTitleIcon(titleIcon);
-    setDirty(false);
-  }, {{"TitleIcon", titleIcon}, {"TitleCaption", titleCaption}});
+  Trap(this, "Load",
+       [&] {
+         setCurrentNamespaceDef(std::move(namespaceDef));
+         mCurrentRootItem = std::move(rootItem);
+         setCurrentCodeElement(std::move(item));
+         setTitleCaption(titleCaption);
+         setTitleIcon(titleIcon);
+         setDirty(false);
+       },
+       {{"TitleIcon", titleIcon}, {"TitleCaption", titleCaption}});
 }
 
 void CommentEditor::Clear() {
@@ -270,6 +295,8 @@ void CommentEditor::Terminate() {
   Trap(this, "Terminate", [&] {
     if (mTerminated) return;
     mTerminated = true;
+    terminateDesigners();
+    mWrapper = nullptr;
     mCurrentCodeElement.reset();
     mCurrentNamespaceDef.reset();
     mCurrentRootItem.reset();

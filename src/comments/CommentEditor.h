@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QVariantMap>
 #include <memory>
 
+#include "comments/DesignerCells.h"
 #include "foundation/Dumpable.h"
 #include "model/ModelTypes.h"
 
@@ -13,7 +16,11 @@ namespace sv {
 
 class AdditionalFile;
 class CheckBox;
+class CommentEditorHost;
 class CommentPages;
+class DesignerContainer;
+class DesignerControl;
+class DesignerRegistry;
 class Dock;
 class DockCommand;
 class EBCheckBoxes;
@@ -32,12 +39,22 @@ class TaggedCommentDefs;
 class TaggedComments;
 class Template;
 class frmTipPopup;
+class HtmlEditor;
+class IContentDesigner;
+class IContentDesignerHost;
+class RefreshWrapper;
+class IDynamicHelpHost;
+class ISpellingEngine;
 
 // The control in which an author writes the comments of one code element. It offers the
 // element's tags in three places: page tags as items of the explorer bar `eb` (and of the
 // toolbar `DockCommentTypes`), flags as check boxes in the bar's "flags" group, and list tags as
 // rows of the tag list. Every comment enters and leaves an element by AddTaggedComment and
 // DeleteTaggedComment, which raise the events and move Dirty.
+//
+// A page tag's text is edited by a designer, made by class name (the definition's
+// DesignerProgID) when its page is first shown, and kept in DesignerContainer until Terminate.
+// Tags whose classes are the same share one designer. The editor is the designers' host.
 //
 // Icons are read at initialisation from "icons/commenttypes" below AppPath(): the path set with
 // setAppPath, or else AppSettings::AppPath() of the installed model. The application path is the
@@ -140,8 +157,40 @@ class CommentEditor : public QObject, public Dumpable {
   // Selects a page by bar key; ForceRefresh is accepted and has no effect.
   void SelectCommentType(const QString& Key, bool ForceRefresh = false);
   void SelectInPlaceEditLayout(const QString& PageLayoutName);
-  // Drops the model references; the control must not be used afterwards.
+  // Terminates the designers and drops the model references; the control must not be used
+  // afterwards. A second call does nothing.
   void Terminate();
+
+  // Designer hosting (CommentEditorDesigners.cpp).
+  // The designer on display; null while the tag list or a page layout is shown.
+  IContentDesigner* ActiveDesigner() const { return mActiveDesigner.get(); }
+  // The designer of a tag, made hidden when it does not exist yet; null for an unknown tag.
+  std::shared_ptr<IContentDesigner> GetDesignerObject(const QString& TagIdentifier);
+  // The editor on display: the page editor's for a layout, the designer's for a tag page, null
+  // for the tag list and the flags.
+  HtmlEditor* GetActiveHTMLEditor() const;
+  bool DesignerContainerVisible() const;
+  sv::DesignerContainer* DesignerPanel() const { return mDesignerContainer; }
+  // The designer the editor starts with, for tags whose definitions name no class.
+  DesignerControl* HTMLEdit() const { return mHTMLEdit; }
+  // The names of the designer controls made at run time.
+  const StringCollection& CreatedDesigners() const { return mCreatedDesigners; }
+  // The class that edits a tag: its DesignerProgID, the definitions' default, or "HTMLEdit".
+  QString DesignerForTaggedComment(const std::shared_ptr<TaggedCommentDef>& def) const;
+  // Keeps the host's refresh lock and command wrapper; null drops it.
+  void BindToWrapper(RefreshWrapper* wrapper);
+  // The designers' view of this editor.
+  IContentDesignerHost& DesignerHost() const;
+  // Where designers are made; the product's designers unless a host sets its own.
+  void setDesignerRegistry(std::shared_ptr<DesignerRegistry> registry);
+  // Formatting commands of the host, sent to the page editor while it is shown, else to the
+  // active designer's HTML editor; nothing happens without either.
+  void InsertTable(int rows, int columns);
+  void SetForeColorByName(const QString& colour);
+  void SetFillColorByName(const QString& colour);
+  QString GetForeColorName() const;
+  QString GetFillColorName() const;
+  void ClickEditTool(const QString& tool);
 
   // The one road by which a comment enters an element.
   void AddTaggedComment(const std::shared_ptr<CodeItem>& Item,
@@ -149,8 +198,7 @@ class CommentEditor : public QObject, public Dumpable {
   // Takes a comment off an element, leaving a tombstone when KeepTombstones asks for one.
   // `Key` is not used; the event carries the comment's Id.
   void DeleteTaggedComment(const std::shared_ptr<CodeItem>& Item,
-                           const std::shared_ptr<TaggedComment>& comment,
-                           const QString& Key = {});
+                           const std::shared_ptr<TaggedComment>& comment, const QString& Key = {});
   // Reports a changed comment: TaggedCommentChanged, the description, Dirty.
   void ChangeTaggedComment(const std::shared_ptr<CodeItem>& Item,
                            const std::shared_ptr<TaggedComment>& comment);
@@ -184,6 +232,54 @@ class CommentEditor : public QObject, public Dumpable {
   // The toolbar's band: shown when ShowCombo is true and there is an element.
   static constexpr const char* ToolbarBand = "CommentTypes";
 
+  // --- Members a host reaches through ProjectEditor (CommentEditorHostMembers.cpp) ----------
+  // Spelling, focus, user data, settings and context help.
+  // Walks the pages with comments and checks them with the bound spelling engine; answers false
+  // when the author cancelled. Without comments, or without an engine bound, there is nothing to
+  // check: true, and no message. PassedSpell is accepted and not used.
+  bool SpellCheck(bool ShowCompletionMessage, ISpellingEngine* PassedSpell = nullptr);
+  void SetSpellObject(std::shared_ptr<ISpellingEngine> Spell);
+  std::shared_ptr<ISpellingEngine> SpellObject() const { return mSpell; }
+  // Applies the options to the bound engine and keeps the words to ignore.
+  void SetSpellOptions(bool Suggest, bool IgnoreInUpperCase, bool IgnoreWithNumbers,
+                       bool IgnoreInMixedCase, const QString& MainDictionaryFile,
+                       const QString& CustomDictionaryFile, const QStringList& IgnoreWordList);
+  const QStringList& SpellIgnoreWords() const { return mSpellIgnoreWords; }
+  // Set while a spell check runs when the author cancelled it.
+  bool SpellCheckCancelled() const { return mSpellCheckCancelled; }
+  // Stored for the renderers of the toolbars and the designers' hosts.
+  int ToolbarStyle() const { return mToolbarStyle; }
+  void setToolbarStyle(int value);
+  // A designer has the focus.
+  bool EditInFocus() const { return mEditInFocus; }
+  void setEditInFocus(bool value);
+  // Moves the focus to the page on display, unless a refresh is running.
+  void SetEditFocus();
+  // The author's view of the editor inside a host's user data. An XML element is passed as a
+  // map: text entries are attributes, map entries child elements. Save adds the child
+  // "CommentEditor"; Load reads it back and shows the page it names when the element has it.
+  void SaveUserData(QVariantMap& e) const;
+  void LoadUserData(const QVariantMap& e);
+  // Reapplies the spelling options of the settings to the engine and the tag list's
+  // description pane settings.
+  void ReloadSettings();
+  // Context help: keeps the help window, and describes the element and the page on display.
+  void IDynamicHelpContext_Initialise(const std::shared_ptr<IDynamicHelpHost>& Notify);
+  void IDynamicHelpContext_QueryContext(QStringList& KeywordCollection,
+                                        QMap<QString, QString>& Attributes);
+  std::shared_ptr<IDynamicHelpHost> DynamicHelpHost() const { return mDynamicHelpHost; }
+
+ private:
+  // Selects each page with content in turn and lets its designer check it.
+  void spellCheckPages();
+
+  std::shared_ptr<ISpellingEngine> mSpell;
+  QStringList mSpellIgnoreWords;
+  bool mSpellCheckCancelled = false;
+  int mToolbarStyle = 0;
+  std::shared_ptr<IDynamicHelpHost> mDynamicHelpHost;
+  // --- End of the host members --------------------------------------------------------------
+
  signals:
   void HyperlinkClick(const QString& hRef);
   void TaggedCommentAdded(std::shared_ptr<sv::CodeItem> Item,
@@ -209,8 +305,12 @@ class CommentEditor : public QObject, public Dumpable {
                        std::shared_ptr<sv::CodeItem> Item);
   void DocumentComplete();
   void AdditionalFileAdded(std::shared_ptr<sv::AdditionalFile> file, bool* Handled);
+  // The designer on display changed: renderers show the new one.
+  void ActiveDesignerChanged();
 
  private:
+  friend class CommentEditorHost;
+
   // What one Refresh works with, gathered once.
   struct RefreshState;
 
@@ -252,6 +352,26 @@ class CommentEditor : public QObject, public Dumpable {
   void DockCommentTypes_CommandClick(DockCommand* command);
   void DockCommentTypes_PopupWindowShowing(DockCommand* popup);
   void chkExplorerBar_Click(int Index);
+
+  // Designer hosting (CommentEditorDesigners.cpp).
+  void showTagPage(const QString& Key);
+  // Whether a definition has a designer: it exists and its class is not "{None}".
+  bool hasPage(const std::shared_ptr<TaggedCommentDef>& def) const;
+  DesignerControl* ActiveDesignerControl() const;
+  DesignerControl* zCreateDesignerControl(const std::shared_ptr<TaggedCommentDef>& def,
+                                          bool MakeVisible);
+  // The comments a designer of `def` edits: of its tag and not hidden; all comments without
+  // a definition.
+  CommentCollection taggedCommentsOf(const std::shared_ptr<TaggedCommentDef>& def) const;
+  CommentCollection ActiveTaggedComments() const;
+  DesignerCells GetDataCells(const std::shared_ptr<TaggedCommentDef>& def) const;
+  void SetActiveDesignerText();
+  void HideActiveDesigner();
+  void setActiveDesigner(std::shared_ptr<IContentDesigner> designer);
+  void removeDesignerControls(const QStringList& names);
+  void terminateDesigners();
+  HtmlEditor* formattingEditor() const;
+  void DesignerContainer_Resize();
 
   // Tag list handlers (CommentEditorTagsList.cpp).
   void mTagsList_BeforeEdit(PropertyRow* row, bool* cancel);
@@ -306,6 +426,14 @@ class CommentEditor : public QObject, public Dumpable {
   ImageList* mImages;
   std::shared_ptr<ElementFacts> mFacts;
   std::shared_ptr<CommentPages> mPages;
+
+  std::shared_ptr<IContentDesigner> mActiveDesigner;
+  RefreshWrapper* mWrapper = nullptr;
+  StringCollection mCreatedDesigners;
+  sv::DesignerContainer* mDesignerContainer;
+  DesignerControl* mHTMLEdit;
+  std::shared_ptr<DesignerRegistry> mDesignerRegistry;
+  std::unique_ptr<CommentEditorHost> mHost;
 };
 
 }  // namespace sv

@@ -5,6 +5,10 @@
 #include <QSet>
 
 #include "comments/CommentPages.h"
+#include "comments/DesignerContainer.h"
+#include "comments/IContentDesigner.h"
+#include "comments/RefreshWrapper.h"
+#include "foundation/DynamicHelp.h"
 #include "foundation/ErrorTrap.h"
 #include "model/CodeItem.h"
 #include "model/TaggedComment.h"
@@ -108,7 +112,8 @@ void CommentEditor::PopulateToolbar() {
         continue;
       }
       if (item->Key() == kOther) {
-        DockCommand* other = mDock->AddCommand(kOther, DockCommandType::Check, item->Caption(), band);
+        DockCommand* other =
+            mDock->AddCommand(kOther, DockCommandType::Check, item->Caption(), band);
         other->setImage(kOther);
         other->setBeginGroup(true);
         continue;
@@ -137,52 +142,52 @@ void CommentEditor::PopulateToolbar() {
 }
 
 void CommentEditor::SelectCommentType(const QString& Key, bool ForceRefresh) {
-  Trap(
-      this, "SelectCommentType",
-      [&] {
-        {
-          const bool populating = mPopulating;
-          mPopulating = true;
-          auto restore = qScopeGuard([this, populating] { mPopulating = populating; });
-          ExplorerBarItem* item = Key.isEmpty() ? nullptr : mEb->FindItem(Key);
-          if (Key.isEmpty()) mEb->setSelectedItem(nullptr);
-          if (item && !item->Selected()) item->setSelected(true);
-        }
-        {
-          mDock->LockRedraw();
-          auto unlock = qScopeGuard([this] { mDock->UnlockRedraw(); });
-          const bool layout = startsWith(Key, QStringLiteral("inplaceedit:"));
-          for (DockCommand* command : mDock->Commands()) {
-            if (command->Type() != DockCommandType::Check || !command->Visible()) continue;
-            if (startsWith(command->Key(), kFlagPrefix)) continue;
-            command->setValue(!layout && command->Key().compare(Key, Qt::CaseInsensitive) == 0 ? 1 : 0);
-          }
-          if (layout) {
-            if (DockCommand* pages = mDock->FindCommand(kPagesPopup)) {
-              for (DockCommand* entry : pages->Entries())
-                if (entry->Key().compare(Key, Qt::CaseInsensitive) == 0) pages->setCurrentEntry(entry);
-              pages->setValue(1);
-            }
-          }
-        }
-        CommentTypeSelected(Key);
-      },
-      {{"Key", Key}, {"ForceRefresh", ForceRefresh}});
+  Trap(this, "SelectCommentType",
+       [&] {
+         {
+           const bool populating = mPopulating;
+           mPopulating = true;
+           auto restore = qScopeGuard([this, populating] { mPopulating = populating; });
+           ExplorerBarItem* item = Key.isEmpty() ? nullptr : mEb->FindItem(Key);
+           if (Key.isEmpty()) mEb->setSelectedItem(nullptr);
+           if (item && !item->Selected()) item->setSelected(true);
+         }
+         {
+           mDock->LockRedraw();
+           auto unlock = qScopeGuard([this] { mDock->UnlockRedraw(); });
+           const bool layout = startsWith(Key, QStringLiteral("inplaceedit:"));
+           for (DockCommand* command : mDock->Commands()) {
+             if (command->Type() != DockCommandType::Check || !command->Visible()) continue;
+             if (startsWith(command->Key(), kFlagPrefix)) continue;
+             command->setValue(
+                 !layout && command->Key().compare(Key, Qt::CaseInsensitive) == 0 ? 1 : 0);
+           }
+           if (layout) {
+             if (DockCommand* pages = mDock->FindCommand(kPagesPopup)) {
+               for (DockCommand* entry : pages->Entries())
+                 if (entry->Key().compare(Key, Qt::CaseInsensitive) == 0)
+                   pages->setCurrentEntry(entry);
+               pages->setValue(1);
+             }
+           }
+         }
+         CommentTypeSelected(Key);
+       },
+       {{"Key", Key}, {"ForceRefresh", ForceRefresh}});
 }
 
 void CommentEditor::SelectInPlaceEditLayout(const QString& PageLayoutName) {
-  Trap(
-      this, "SelectInPlaceEditLayout",
-      [&] {
-        const QString key = QStringLiteral("inplaceedit:") + PageLayoutName;
-        if (ExplorerBarItem* item = mEb->Group(QStringLiteral("main"))->FindItem(key))
-          item->setSelected(true);
-      },
-      {{"PageLayoutName", PageLayoutName}});
+  Trap(this, "SelectInPlaceEditLayout",
+       [&] {
+         const QString key = QStringLiteral("inplaceedit:") + PageLayoutName;
+         if (ExplorerBarItem* item = mEb->Group(QStringLiteral("main"))->FindItem(key))
+           item->setSelected(true);
+       },
+       {{"PageLayoutName", PageLayoutName}});
 }
 
 void CommentEditor::CommentTypeSelected(const QString& Key) {
-  if (mPages->HasActiveDesigner()) mPages->CommitEdit();
+  if (mActiveDesigner) mActiveDesigner->CommitEdit();
   bool RefreshNow = false;
   DockCommand* tip = mDock->FindCommand(kTipPopup);
   if (Key.compare(kOther, Qt::CaseInsensitive) == 0) {
@@ -191,24 +196,29 @@ void CommentEditor::CommentTypeSelected(const QString& Key) {
     // The list is made on its first display, and the refresh fills it.
     RefreshNow = !mTagsList;
     TagsList()->setVisible(true);
-    mPages->HideActiveDesigner();
+    // The list comes forward, in front of the designers: their panel is hidden.
+    mDesignerContainer->setVisible(false);
+    HideActiveDesigner();
+    if (mWrapper) mWrapper->BindTo(true, nullptr);
+    setActiveDesigner(nullptr);
     if (tip) tip->setEnabled(false);
   } else if (startsWith(Key, kLayoutPrefix)) {
     mPages->ShowLayout(mCurrentCodeElement, Key.section(QLatin1Char(':'), 1));
-    mPages->HideActiveDesigner();
+    HideActiveDesigner();
     if (mTagsList) mTagsList->setVisible(false);
+    mDesignerContainer->setVisible(false);
     mInPlaceEditorIsActive = true;
+    setActiveDesigner(nullptr);
     if (tip) tip->setEnabled(false);
   } else if (Key != kContainer) {
-    const auto def = Key.isEmpty() ? nullptr : definitions()->Item(Key);
-    if (!def) return;
-    mPages->ShowTag(def);
-    mActiveTaggedCommentDef = def;
-    mInPlaceEditorIsActive = false;
-    if (mTagsList) mTagsList->setVisible(false);
+    showTagPage(Key);
+    if (!mActiveTaggedCommentDef) return;
     if (tip) tip->setEnabled(true);
   }
-  if (RefreshNow) Refresh(false);
+  if (RefreshNow)
+    Refresh(false);
+  else if (mDynamicHelpHost)
+    mDynamicHelpHost->ContextChanged();
 }
 
 void CommentEditor::eb_SelChange(ExplorerBarItem* item) {
@@ -218,7 +228,7 @@ void CommentEditor::eb_SelChange(ExplorerBarItem* item) {
     item->setTag({});
     const QString key = item->Key();
     SelectCommentType(key);
-    if (!mNoSetFocus) mPages->SetEditFocus(key);
+    SetEditFocus();
   });
 }
 
@@ -229,7 +239,7 @@ void CommentEditor::DockCommentTypes_CommandClick(DockCommand* command) {
     SV_TRAP_LOCAL(key);
     if (!startsWith(key, kFlagPrefix)) {
       SelectCommentType(key);
-      if (!mNoSetFocus) mPages->SetEditFocus(key);
+      SetEditFocus();
       return;
     }
     // The dock has toggled the command already; its value is the flag's new state.

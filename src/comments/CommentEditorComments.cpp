@@ -3,6 +3,7 @@
 
 #include "comments/CommentPages.h"
 #include "comments/ElementFacts.h"
+#include "comments/IContentDesigner.h"
 #include "foundation/ErrorTrap.h"
 #include "model/CodeItem.h"
 #include "model/ModelFactory.h"
@@ -39,92 +40,89 @@ bool isKind(const std::shared_ptr<CodeItem>& item, const QString& kind) {
 
 void CommentEditor::AddTaggedComment(const std::shared_ptr<CodeItem>& Item,
                                      const std::shared_ptr<TaggedComment>& comment) {
-  Trap(
-      this, "TaggedCommentAdded",
-      [&] {
-        Item->TaggedComments()->Add(comment, comment->Id());
-        // Listeners see the comment in the collection with only its tag and text.
-        emit TaggedCommentAdded(Item, comment);
-        if (Item == mCurrentCodeElement) UpdateGroupItemStatus();
-        const QString tag = comment->TagIdentifier();
-        if (QualifierRequired(tag, definitionOf(*comment), Item))
-          comment->setQualifier(Item->Name().value_or(QString()));
-        comment->setItem(Item);
-        if (mCommentType == XMLComments) comment->setXMLCommentType(GetXMLCommentType(comment));
-        comment->setStatus(CommentStatus::New);
-        setDirty(true);
-      },
-      {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))}, {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))}});
+  Trap(this, "TaggedCommentAdded",
+       [&] {
+         Item->TaggedComments()->Add(comment, comment->Id());
+         // Listeners see the comment in the collection with only its tag and text.
+         emit TaggedCommentAdded(Item, comment);
+         if (Item == mCurrentCodeElement) UpdateGroupItemStatus();
+         const QString tag = comment->TagIdentifier();
+         if (QualifierRequired(tag, definitionOf(*comment), Item))
+           comment->setQualifier(Item->Name().value_or(QString()));
+         comment->setItem(Item);
+         if (mCommentType == XMLComments) comment->setXMLCommentType(GetXMLCommentType(comment));
+         comment->setStatus(CommentStatus::New);
+         setDirty(true);
+       },
+       {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))},
+        {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))}});
 }
 
 void CommentEditor::DeleteTaggedComment(const std::shared_ptr<CodeItem>& Item,
                                         const std::shared_ptr<TaggedComment>& comment,
                                         const QString& Key) {
-  Trap(
-      this, "TaggedCommentDeleted",
-      [&] {
-        // A stored comment stays behind as a tombstone so that the store can delete it later.
-        if (!mKeepTombstones || comment->Status() == CommentStatus::New)
-          Item->TaggedComments()->Remove(comment->Id());
-        comment->setStatus(CommentStatus::Deleted);
-        emit TaggedCommentDeleted(Item, comment, comment->Id());
-        if (Item == mCurrentCodeElement) UpdateGroupItemStatus();
-        setDirty(true);
-      },
-      {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))},
-       {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))},
-       {"Key", Key}});
+  Trap(this, "TaggedCommentDeleted",
+       [&] {
+         // A stored comment stays behind as a tombstone so that the store can delete it later.
+         if (!mKeepTombstones || comment->Status() == CommentStatus::New)
+           Item->TaggedComments()->Remove(comment->Id());
+         comment->setStatus(CommentStatus::Deleted);
+         emit TaggedCommentDeleted(Item, comment, comment->Id());
+         if (Item == mCurrentCodeElement) UpdateGroupItemStatus();
+         setDirty(true);
+       },
+       {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))},
+        {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))},
+        {"Key", Key}});
 }
 
 void CommentEditor::ChangeTaggedComment(const std::shared_ptr<CodeItem>& Item,
                                         const std::shared_ptr<TaggedComment>& comment) {
-  Trap(
-      this, "TaggedCommentChanged",
-      [&] {
-        emit TaggedCommentChanged(Item, comment, comment->Id());
-        const auto def = definitionOf(*comment);
-        if (comment->TagIdentifier().isEmpty() || (def && def->IsGeneral()))
-          mPages->UpdateDescription(Item, false);
-        setDirty(true);
-      },
-      {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))}, {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))}});
+  Trap(this, "TaggedCommentChanged",
+       [&] {
+         emit TaggedCommentChanged(Item, comment, comment->Id());
+         const auto def = definitionOf(*comment);
+         if (comment->TagIdentifier().isEmpty() || (def && def->IsGeneral()))
+           mPages->UpdateDescription(Item, false);
+         setDirty(true);
+       },
+       {{"Item", DumpVariant::Object(Item, QStringLiteral("CodeItem"))},
+        {"TaggedComment", DumpVariant::Object(comment, QStringLiteral("TaggedComment"))}});
 }
 
 bool CommentEditor::QualifierRequired(const QString& TagIdentifier,
                                       const std::shared_ptr<TaggedCommentDef>& def,
                                       const std::shared_ptr<CodeItem>& CodeElement) const {
-  return Trap(
-      this, "QualifierRequired",
-      [&] {
-        // An empty element is of no kind, so no test below holds for it.
-        if (!CodeElement) return false;
-        auto parentIs = [&](const QString& kind) {
-          return isKind(mFacts->Parent(CodeElement, provider()), kind);
-        };
-        const QString kind = CodeElement->TypeName();
-        bool required = false;
-        if (TagIdentifier != kImplicitTag)
-          required = kQualifiedKinds.contains(kind, Qt::CaseInsensitive) ||
-                     (isKind(CodeElement, kVariableKind) && parentIs(kUDTKind));
-        if (!required && def && !def->Qualifier().isEmpty())
-          required = (isKind(CodeElement, kVariableKind) && !parentIs(kModuleKind)) ||
-                     isKind(CodeElement, kLegacyQualifiedKind);
-        return required;
-      },
-      {{"TagIdentifier", TagIdentifier}});
+  return Trap(this, "QualifierRequired",
+              [&] {
+                // An empty element is of no kind, so no test below holds for it.
+                if (!CodeElement) return false;
+                auto parentIs = [&](const QString& kind) {
+                  return isKind(mFacts->Parent(CodeElement, provider()), kind);
+                };
+                const QString kind = CodeElement->TypeName();
+                bool required = false;
+                if (TagIdentifier != kImplicitTag)
+                  required = kQualifiedKinds.contains(kind, Qt::CaseInsensitive) ||
+                             (isKind(CodeElement, kVariableKind) && parentIs(kUDTKind));
+                if (!required && def && !def->Qualifier().isEmpty())
+                  required = (isKind(CodeElement, kVariableKind) && !parentIs(kModuleKind)) ||
+                             isKind(CodeElement, kLegacyQualifiedKind);
+                return required;
+              },
+              {{"TagIdentifier", TagIdentifier}});
 }
 
 std::shared_ptr<TaggedComment> CommentEditor::GetTaggedCommentByKey(const QString& Key) const {
-  return Trap(
-      this, "GetTaggedCommentByKey",
-      [&]() -> std::shared_ptr<TaggedComment> {
-        const auto comments = TaggedComments();
-        if (!comments) return nullptr;
-        for (const auto& comment : *comments)
-          if (comment->Id() == Key) return comment;
-        return nullptr;
-      },
-      {{"Key", Key}});
+  return Trap(this, "GetTaggedCommentByKey",
+              [&]() -> std::shared_ptr<TaggedComment> {
+                const auto comments = TaggedComments();
+                if (!comments) return nullptr;
+                for (const auto& comment : *comments)
+                  if (comment->Id() == Key) return comment;
+                return nullptr;
+              },
+              {{"Key", Key}});
 }
 
 int CommentEditor::FindTaggedComments(const CommentCollection& col, const QString& TagIdentifier) {
@@ -154,7 +152,7 @@ void CommentEditor::ItemChanged(PropertyRow* row) {
 
 void CommentEditor::CommitEdit() {
   Trap(this, "CommitEdit", [&] {
-    if (mPages->HasActiveDesigner()) mPages->CommitEdit();
+    if (mActiveDesigner) mActiveDesigner->CommitEdit();
     if (!mTagsList || !mTagsList->EditMode() || !mTagsList->SelectedItem()) return;
     const QString key = mTagsList->SelectedItem()->Key();
     SV_TRAP_LOCAL(key);
@@ -167,65 +165,63 @@ void CommentEditor::CommitEdit() {
 }
 
 void CommentEditor::DeleteCommentItem(const QString& Key) {
-  Trap(
-      this, "DeleteCommentItem",
-      [&] {
-        // The key may belong to the row that is about to go.
-        const QString key = Key;
-        PropertyList* list = TagsList();
-        list->LockRedraw();
-        PropertyRow* row = list->Find(key);
-        if (!row || row->IsAddRow()) {
-          list->UnlockRedraw();
-          return;
-        }
-        mIgnoreReset = true;
-        const int position = row->Index();
-        SV_TRAP_LOCAL(position);
-        PropertyRow* next = nullptr;
-        if (position < list->Count()) {
-          PropertyRow* after = list->Item(position + 1);
-          if (!after->IsAddRow() && after->Kind() != PropertyRowKind::Heading) next = after;
-        }
-        if (!next && position > 1) next = list->Item(position - 1);
-        list->Remove(position);
-        if (const auto comment = GetTaggedCommentByKey(key))
-          DeleteTaggedComment(mCurrentCodeElement, comment);
-        zSetTagControls(QStringLiteral("edit"), false);
-        list->setSelectedItem(next);
-        mIgnoreReset = false;
-        list->UnlockRedraw();
-      },
-      {{"Key", Key}});
+  Trap(this, "DeleteCommentItem",
+       [&] {
+         // The key may belong to the row that is about to go.
+         const QString key = Key;
+         PropertyList* list = TagsList();
+         list->LockRedraw();
+         PropertyRow* row = list->Find(key);
+         if (!row || row->IsAddRow()) {
+           list->UnlockRedraw();
+           return;
+         }
+         mIgnoreReset = true;
+         const int position = row->Index();
+         SV_TRAP_LOCAL(position);
+         PropertyRow* next = nullptr;
+         if (position < list->Count()) {
+           PropertyRow* after = list->Item(position + 1);
+           if (!after->IsAddRow() && after->Kind() != PropertyRowKind::Heading) next = after;
+         }
+         if (!next && position > 1) next = list->Item(position - 1);
+         list->Remove(position);
+         if (const auto comment = GetTaggedCommentByKey(key))
+           DeleteTaggedComment(mCurrentCodeElement, comment);
+         zSetTagControls(QStringLiteral("edit"), false);
+         list->setSelectedItem(next);
+         mIgnoreReset = false;
+         list->UnlockRedraw();
+       },
+       {{"Key", Key}});
 }
 
 void CommentEditor::FlagChecked(const QString& Key, bool Checked) {
-  Trap(
-      this, "FlagChecked",
-      [&] {
-        for (int index = 1; index < mCheckBoxes->Count(); ++index) {
-          CheckBox* box = mCheckBoxes->Item(index);
-          if (box->Tag() == Key) setCheckboxValue(box, Checked ? 1 : 0);
-        }
-        if (Checked) {
-          auto comment = Model().NewTaggedComment();
-          comment->setItem(mCurrentCodeElement);
-          comment->setTagIdentifier(Key);
-          AddTaggedComment(mCurrentCodeElement, comment);
-        } else {
-          // Tombstones come first if they stand first: deleting one again is harmless, and
-          // the live comment then stays.
-          std::shared_ptr<TaggedComment> found;
-          for (const auto& comment : *mCurrentCodeElement->TaggedComments()) {
-            if (comment->TagIdentifier().compare(Key, Qt::CaseInsensitive) != 0) continue;
-            found = comment;
-            break;
-          }
-          if (found) DeleteTaggedComment(mCurrentCodeElement, found);
-        }
-        emit UpdateItemImage(mCurrentNamespaceDef, mCurrentCodeElement);
-      },
-      {{"Key", Key}, {"Checked", Checked}});
+  Trap(this, "FlagChecked",
+       [&] {
+         for (int index = 1; index < mCheckBoxes->Count(); ++index) {
+           CheckBox* box = mCheckBoxes->Item(index);
+           if (box->Tag() == Key) setCheckboxValue(box, Checked ? 1 : 0);
+         }
+         if (Checked) {
+           auto comment = Model().NewTaggedComment();
+           comment->setItem(mCurrentCodeElement);
+           comment->setTagIdentifier(Key);
+           AddTaggedComment(mCurrentCodeElement, comment);
+         } else {
+           // Tombstones come first if they stand first: deleting one again is harmless, and
+           // the live comment then stays.
+           std::shared_ptr<TaggedComment> found;
+           for (const auto& comment : *mCurrentCodeElement->TaggedComments()) {
+             if (comment->TagIdentifier().compare(Key, Qt::CaseInsensitive) != 0) continue;
+             found = comment;
+             break;
+           }
+           if (found) DeleteTaggedComment(mCurrentCodeElement, found);
+         }
+         emit UpdateItemImage(mCurrentNamespaceDef, mCurrentCodeElement);
+       },
+       {{"Key", Key}, {"Checked", Checked}});
 }
 
 void CommentEditor::setCheckboxValue(CheckBox* box, int value) {
@@ -256,14 +252,13 @@ void CommentEditor::UnloadFlagCheckboxes() {
 }
 
 void CommentEditor::chkExplorerBar_Click(int Index) {
-  Trap(
-      this, "chkExplorerBar_Click",
-      [&] {
-        if (mPostingtoCheckboxes) return;
-        const CheckBox* box = mCheckBoxes->Item(Index);
-        FlagChecked(box->Tag(), box->Value() == 1);
-      },
-      {{"Index", Index}});
+  Trap(this, "chkExplorerBar_Click",
+       [&] {
+         if (mPostingtoCheckboxes) return;
+         const CheckBox* box = mCheckBoxes->Item(Index);
+         FlagChecked(box->Tag(), box->Value() == 1);
+       },
+       {{"Index", Index}});
 }
 
 }  // namespace sv

@@ -6,7 +6,9 @@
 #include <optional>
 
 #include "comments/CommentPages.h"
+#include "comments/DesignerContainer.h"
 #include "comments/ElementFacts.h"
+#include "comments/RefreshWrapper.h"
 #include "foundation/ErrorTrap.h"
 #include "model/CodeItem.h"
 #include "model/CodeMember.h"
@@ -83,88 +85,90 @@ bool CommentEditor::ContainsNamespace(const QString& Source, const QString& Name
 }
 
 void CommentEditor::Refresh(bool JustRepopulatePL) {
-  Trap(
-      this, "Refresh",
-      [&] {
-        mNoSetFocus = true;
-        auto focus = qScopeGuard([this] { mNoSetFocus = false; });
-        mEb->Group(QStringLiteral("title"))->setVisible(false);
-        QString LastGroupItemCaption;
-        // The page the author chose is kept; so is any page when the setting asks for it. This
-        // holds also where no layouts are offered, or the tag list could never stay on display.
-        const ExplorerBarItem* selected = mEb->SelectedItem();
-        if (selected && (mKeepPageAcrossElements || selected->Tag().isEmpty()))
-          LastGroupItemCaption = selected->Caption();
-        SV_TRAP_LOCAL(LastGroupItemCaption);
-        mPages->HideActiveDesigner();
-        mActiveTaggedCommentDef.reset();
-        QString rowKey;
-        if (mTagsList && mTagsList->SelectedItem() && !mTagsList->SelectedItem()->IsAddRow())
-          rowKey = mTagsList->SelectedItem()->Key();
-        if (!mCurrentCodeElement) {
-          hideEverything();
-          return;
-        }
+  Trap(this, "Refresh",
+       [&] {
+         mNoSetFocus = true;
+         auto focus = qScopeGuard([this] { mNoSetFocus = false; });
+         mEb->Group(QStringLiteral("title"))->setVisible(false);
+         QString LastGroupItemCaption;
+         // The page the author chose is kept; so is any page when the setting asks for it. This
+         // holds also where no layouts are offered, or the tag list could never stay on display.
+         const ExplorerBarItem* selected = mEb->SelectedItem();
+         if (selected && (mKeepPageAcrossElements || selected->Tag().isEmpty()))
+           LastGroupItemCaption = selected->Caption();
+         SV_TRAP_LOCAL(LastGroupItemCaption);
+         HideActiveDesigner();
+         setActiveDesigner(nullptr);
+         mActiveTaggedCommentDef.reset();
+         QString rowKey;
+         if (mTagsList && mTagsList->SelectedItem() && !mTagsList->SelectedItem()->IsAddRow())
+           rowKey = mTagsList->SelectedItem()->Key();
+         if (!mCurrentCodeElement) {
+           hideEverything();
+           return;
+         }
 
-        mPopulating = true;
-        auto populating = qScopeGuard([this] { mPopulating = false; });
-        mEb->LockRedraw();
-        auto barLock = qScopeGuard([this] { mEb->UnlockRedraw(); });
-        ExplorerBarItem* container = mEb->Group(QStringLiteral("flags"))->Item(kContainer);
-        container->setVisible(false);
-        mDock->LockRedraw();
-        auto dockLock = qScopeGuard([this] { mDock->UnlockRedraw(); });
-        mEb->setVisible(!mShowCombo);
-        mDock->Band(QLatin1String(ToolbarBand))->setVisible(mShowCombo);
-        if (mNamespaceChanged) {
-          mNamespaceChanged = false;
-          removeRuntimeItems();
-        }
+         mPopulating = true;
+         auto populating = qScopeGuard([this] { mPopulating = false; });
+         mEb->LockRedraw();
+         auto barLock = qScopeGuard([this] { mEb->UnlockRedraw(); });
+         ExplorerBarItem* container = mEb->Group(QStringLiteral("flags"))->Item(kContainer);
+         container->setVisible(false);
+         mDock->LockRedraw();
+         auto dockLock = qScopeGuard([this] { mDock->UnlockRedraw(); });
+         mEb->setVisible(!mShowCombo);
+         mDock->Band(QLatin1String(ToolbarBand))->setVisible(mShowCombo);
+         if (mNamespaceChanged) {
+           mNamespaceChanged = false;
+           removeRuntimeItems();
+         }
 
-        RefreshState state;
-        state.justList = JustRepopulatePL;
-        refreshElement(JustRepopulatePL, state);
-        bool reselected = false;
-        if (!JustRepopulatePL) {
-          reselected = reselect(LastGroupItemCaption);
-          if (!reselected) {
-            ExplorerBarGroup* main = mEb->Group(QStringLiteral("main"));
-            ExplorerBarGroup* fallback = main->ItemCount() > 0 ? main : mEb->Group(3);
-            if (fallback->ItemCount() > 0) fallback->Item(0)->setSelected(true);
-            // Chosen by the editor, not by the author: the next element need not keep it.
-            if (mEb->SelectedItem()) mEb->SelectedItem()->setTag(QStringLiteral("x"));
-          }
-        }
+         RefreshState state;
+         state.justList = JustRepopulatePL;
+         refreshElement(JustRepopulatePL, state);
+         bool reselected = false;
+         if (!JustRepopulatePL) {
+           reselected = reselect(LastGroupItemCaption);
+           if (!reselected) {
+             ExplorerBarGroup* main = mEb->Group(QStringLiteral("main"));
+             ExplorerBarGroup* fallback = main->ItemCount() > 0 ? main : mEb->Group(3);
+             if (fallback->ItemCount() > 0) fallback->Item(0)->setSelected(true);
+             // Chosen by the editor, not by the author: the next element need not keep it.
+             if (mEb->SelectedItem()) mEb->SelectedItem()->setTag(QStringLiteral("x"));
+           }
+         }
 
-        if (state.list) {
-          state.list->setText({});
-          state.list->UnlockRedraw();
-        }
-        if (mEb->SelectedItem() && mEb->SelectedItem()->Key() == kOther)
-          restoreListSelection(rowKey);
-        PopulateToolbar();
-        if (!JustRepopulatePL && reselected) {
-          DockCommand* pages = mDock->FindCommand(QStringLiteral("p-fullpageedit"));
-          if (pages && !pages->Entries().empty()) pages->setCurrentEntry(pages->Entries().front());
-        }
-        UpdateGroupItemStatus();
-        mPopulating = false;
-        SelectCommentType(mEb->SelectedItem() ? mEb->SelectedItem()->Key() : QString());
+         if (state.list) {
+           state.list->setText({});
+           state.list->UnlockRedraw();
+         }
+         if (mEb->SelectedItem() && mEb->SelectedItem()->Key() == kOther)
+           restoreListSelection(rowKey);
+         PopulateToolbar();
+         if (!JustRepopulatePL && reselected) {
+           DockCommand* pages = mDock->FindCommand(QStringLiteral("p-fullpageedit"));
+           if (pages && !pages->Entries().empty()) pages->setCurrentEntry(pages->Entries().front());
+         }
+         UpdateGroupItemStatus();
+         mPopulating = false;
+         SelectCommentType(mEb->SelectedItem() ? mEb->SelectedItem()->Key() : QString());
 
-        mEb->Refresh();
-        if (state.flagCount > 0) mCheckBoxes->ResizeToItems(state.flagCount, container);
-        container->setVisible(true);
-        setDirty(false);
-      },
-      {{"JustRepopulatePL", JustRepopulatePL}});
+         mEb->Refresh();
+         if (state.flagCount > 0) mCheckBoxes->ResizeToItems(state.flagCount, container);
+         container->setVisible(true);
+         setDirty(false);
+       },
+       {{"JustRepopulatePL", JustRepopulatePL}});
 }
 
 void CommentEditor::hideEverything() {
   mEb->setVisible(false);
   mDock->Band(QLatin1String(ToolbarBand))->setVisible(false);
   mPages->HideAll();
+  mDesignerContainer->setVisible(false);
   mInPlaceEditorIsActive = false;
   if (mTagsList) mTagsList->setVisible(false);
+  if (mWrapper) mWrapper->BindTo(true, nullptr);
 }
 
 void CommentEditor::removeRuntimeItems() {
@@ -173,7 +177,7 @@ void CommentEditor::removeRuntimeItems() {
     for (const ExplorerBarItem* item : group->Items())
       if (!item->ControlName().isEmpty())
         names << QString(item->ControlName()).remove(QLatin1Char('#'));
-  if (!names.isEmpty()) mPages->RemoveControls(names);
+  removeDesignerControls(names);
 }
 
 void CommentEditor::refreshElement(bool JustRepopulatePL, RefreshState& state) {
@@ -253,10 +257,10 @@ bool CommentEditor::IncludeTC(const TaggedCommentDef& def, RefreshState& state) 
   if (mCommentType == XMLComments && def.XMLCommentTypes().isEmpty()) return false;
   const CodeItem& element = *mCurrentCodeElement;
   if (!state.sourceProjectNamespace) {
-    const QString extension =
-        isKind(element, "NameSpace")
-            ? mFacts->AssemblyFileName(mCurrentCodeElement, provider()).section(QLatin1Char('.'), -1)
-            : QString();
+    const QString extension = isKind(element, "NameSpace")
+                                  ? mFacts->AssemblyFileName(mCurrentCodeElement, provider())
+                                        .section(QLatin1Char('.'), -1)
+                                  : QString();
     state.sourceProjectNamespace =
         extension.compare(QLatin1String("csproj"), Qt::CaseInsensitive) == 0 ||
         extension.compare(QLatin1String("vbproj"), Qt::CaseInsensitive) == 0;
@@ -273,8 +277,8 @@ bool CommentEditor::IncludeTC(const TaggedCommentDef& def, RefreshState& state) 
     if (!state.explicitConstructor) {
       state.explicitConstructor = false;
       for (const QString& name : kConstructors) {
-        const auto member =
-            std::dynamic_pointer_cast<CodeMember>(mFacts->Member(mCurrentCodeElement, name, provider()));
+        const auto member = std::dynamic_pointer_cast<CodeMember>(
+            mFacts->Member(mCurrentCodeElement, name, provider()));
         if (member && member->IsExplicit()) state.explicitConstructor = true;
       }
     }
@@ -341,7 +345,8 @@ void CommentEditor::showFlagsAndOther(RefreshState& state) {
   other->setImage(other->Ticked() ? QStringLiteral("tick") : QString());
   if (!other->Visible() && other->Selected()) other->setSelected(false);
   bool anyVisible = false;
-  for (const ExplorerBarItem* item : otherGroup->Items()) anyVisible = anyVisible || item->Visible();
+  for (const ExplorerBarItem* item : otherGroup->Items())
+    anyVisible = anyVisible || item->Visible();
   otherGroup->setVisible(anyVisible);
 }
 

@@ -82,18 +82,17 @@ void CommentEditor::mTagsList_SelChange(PropertyRow* row) {
 }
 
 void CommentEditor::mTagsList_ButtonClick(PropertyRow* row, const QString& buttonKey) {
-  Trap(
-      this, "mTagsList_ButtonClick",
-      [&] {
-        if (buttonKey == kAddButton) {
-          addFromRow(row);
-          return;
-        }
-        if (buttonKey != kDeleteButton) return;
-        int key = KeyCode::Delete;
-        mTagsList_KeyDown(&key, 0);
-      },
-      {{"ButtonKey", buttonKey}});
+  Trap(this, "mTagsList_ButtonClick",
+       [&] {
+         if (buttonKey == kAddButton) {
+           addFromRow(row);
+           return;
+         }
+         if (buttonKey != kDeleteButton) return;
+         int key = KeyCode::Delete;
+         mTagsList_KeyDown(&key, 0);
+       },
+       {{"ButtonKey", buttonKey}});
 }
 
 void CommentEditor::mTagsList_ItemDblClick(PropertyRow* row) {
@@ -103,44 +102,42 @@ void CommentEditor::mTagsList_ItemDblClick(PropertyRow* row) {
 }
 
 void CommentEditor::mTagsList_KeyDown(int* keyCode, int shift) {
-  Trap(
-      this, "mTagsList_KeyDown",
-      [&] {
-        if (*keyCode != KeyCode::Delete) return;
-        *keyCode = 0;
-        if (PropertyRow* row = mTagsList->SelectedItem()) {
-          DeleteCommentItem(row->Key());
-          return;
-        }
-        Services::Message().ShowMessage(
-            QStringLiteral("Please select a tag which exists in the active code element"),
-            Mb::OK | Mb::Exclamation, QStringLiteral("Scrivara"));
-      },
-      {{"KeyCode", *keyCode}, {"Shift", shift}});
+  Trap(this, "mTagsList_KeyDown",
+       [&] {
+         if (*keyCode != KeyCode::Delete) return;
+         *keyCode = 0;
+         if (PropertyRow* row = mTagsList->SelectedItem()) {
+           DeleteCommentItem(row->Key());
+           return;
+         }
+         Services::Message().ShowMessage(
+             QStringLiteral("Please select a tag which exists in the active code element"),
+             Mb::OK | Mb::Exclamation, QStringLiteral("Scrivara"));
+       },
+       {{"KeyCode", *keyCode}, {"Shift", shift}});
 }
 
 void CommentEditor::mTagsList_KeyPress(int* keyAscii) {
-  Trap(
-      this, "mTagsList_KeyPress",
-      [&] {
-        const bool editing = mTagsList->EditMode();
-        if (*keyAscii == KeyCode::Escape && editing) {
-          mTagsList->CancelEdit();
-          return;
-        }
-        if (*keyAscii != KeyCode::Return) return;
-        PropertyRow* row = mTagsList->SelectedItem();
-        if (row && row->IsAddRow()) {
-          addFromRow(row);
-          return;
-        }
-        if (editing) {
-          mTagsList->CommitEdit();
-          return;
-        }
-        mTagsList->BeginEdit();
-      },
-      {{"KeyAscii", *keyAscii}});
+  Trap(this, "mTagsList_KeyPress",
+       [&] {
+         const bool editing = mTagsList->EditMode();
+         if (*keyAscii == KeyCode::Escape && editing) {
+           mTagsList->CancelEdit();
+           return;
+         }
+         if (*keyAscii != KeyCode::Return) return;
+         PropertyRow* row = mTagsList->SelectedItem();
+         if (row && row->IsAddRow()) {
+           addFromRow(row);
+           return;
+         }
+         if (editing) {
+           mTagsList->CommitEdit();
+           return;
+         }
+         mTagsList->BeginEdit();
+       },
+       {{"KeyAscii", *keyAscii}});
 }
 
 }  // namespace sv

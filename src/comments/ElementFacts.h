@@ -18,17 +18,18 @@ class ElementFacts {
   virtual ~ElementFacts();
 
   // The item that holds `item`; null when unknown.
-  virtual std::shared_ptr<CodeItem> Parent(const std::shared_ptr<CodeItem>& item,
-                                           const std::shared_ptr<NamespaceProvider>& provider) const;
+  virtual std::shared_ptr<CodeItem> Parent(
+      const std::shared_ptr<CodeItem>& item,
+      const std::shared_ptr<NamespaceProvider>& provider) const;
   // The file name of the assembly a namespace item belongs to ("Geo.csproj"); empty when the
   // item is no namespace or the model does not say. The provider knows no assemblies, so the
   // answer here is always empty.
   virtual QString AssemblyFileName(const std::shared_ptr<CodeItem>& item,
                                    const std::shared_ptr<NamespaceProvider>& provider) const;
   // The member `name` ("New()") of a component; null when it has none.
-  virtual std::shared_ptr<CodeItem> Member(const std::shared_ptr<CodeItem>& component,
-                                           const QString& name,
-                                           const std::shared_ptr<NamespaceProvider>& provider) const;
+  virtual std::shared_ptr<CodeItem> Member(
+      const std::shared_ptr<CodeItem>& component, const QString& name,
+      const std::shared_ptr<NamespaceProvider>& provider) const;
 
   // The qualified name of the item that holds `qualifiedName`: the text before its last dot
   // outside brackets; empty for a top item.

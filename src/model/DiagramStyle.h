@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "model/ModelTypes.h"
 
 namespace sv {

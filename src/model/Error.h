@@ -9,15 +9,15 @@ namespace sv {
 
 // Run-time error numbers that callers test for.
 namespace ErrorNumber {
-inline constexpr long InvalidCall = 5;           // "Invalid procedure call or argument"
-inline constexpr long SubscriptOutOfRange = 9;   // missing index or key
+inline constexpr long InvalidCall = 5;          // "Invalid procedure call or argument"
+inline constexpr long SubscriptOutOfRange = 9;  // missing index or key
 inline constexpr long TypeMismatch = 13;
 inline constexpr long ObjectRequired = 424;
-inline constexpr long NotSupported = 438;        // the object lacks the member
-inline constexpr long DuplicateKey = 457;        // key already in a collection
+inline constexpr long NotSupported = 438;  // the object lacks the member
+inline constexpr long DuplicateKey = 457;  // key already in a collection
 inline constexpr long FileNotFound = 53;
 inline constexpr long PathNotFound = 76;
-inline constexpr long BadFileFormat = 321;       // malformed project, layout or configuration file
+inline constexpr long BadFileFormat = 321;  // malformed project, layout or configuration file
 inline constexpr long ApplicationDefined = 65535;
 }  // namespace ErrorNumber
 
@@ -26,7 +26,9 @@ class Error : public std::exception {
  public:
   Error(long number, QString description,
         std::source_location where = std::source_location::current())
-      : mNumber(number), mDescription(std::move(description)), mWhere(where),
+      : mNumber(number),
+        mDescription(std::move(description)),
+        mWhere(where),
         mWhat(mDescription.toStdString()) {}
 
   long Number() const noexcept { return mNumber; }

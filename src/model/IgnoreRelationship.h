@@ -20,5 +20,4 @@ class IgnoreRelationship {
 };
 using IgnoreRelationships = KeyedCollection<std::shared_ptr<IgnoreRelationship>>;
 
-
 }  // namespace sv

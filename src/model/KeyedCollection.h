@@ -60,7 +60,8 @@ class KeyedCollection {
     std::size_t at = mEntries.size();
     if (!std::holds_alternative<std::monostate>(before)) at = positionOf(before);
     if (!std::holds_alternative<std::monostate>(after)) at = positionOf(after) + 1;
-    mEntries.insert(mEntries.begin() + static_cast<std::ptrdiff_t>(at), Entry{key, std::move(item)});
+    mEntries.insert(mEntries.begin() + static_cast<std::ptrdiff_t>(at),
+                    Entry{key, std::move(item)});
     if (at + 1 == mEntries.size()) {
       if (!key.isEmpty()) mIndex.insert(fold(key), at);
     } else {

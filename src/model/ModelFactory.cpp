@@ -14,7 +14,8 @@ std::shared_ptr<ModelFactory>& installed() {
 }  // namespace
 
 ModelFactory& Model() {
-  if (!installed()) Raise(ErrorNumber::ObjectRequired, QStringLiteral("No project model is installed"));
+  if (!installed())
+    Raise(ErrorNumber::ObjectRequired, QStringLiteral("No project model is installed"));
   return *installed();
 }
 

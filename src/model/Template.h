@@ -20,8 +20,7 @@ class Template {
   virtual QString Name() const = 0;
   virtual std::shared_ptr<KeyedCollection<std::shared_ptr<TOCDefinition>>> TOCDefinitions()
       const = 0;
-  virtual std::shared_ptr<KeyedCollection<std::shared_ptr<TemplateVariable>>> Variables()
-      const = 0;
+  virtual std::shared_ptr<KeyedCollection<std::shared_ptr<TemplateVariable>>> Variables() const = 0;
   virtual std::shared_ptr<NamespaceDefs> NameSpaces() const = 0;
   // Feature letters; "C" is community.
   virtual QString Features() const = 0;

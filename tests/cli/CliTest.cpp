@@ -64,8 +64,7 @@ TEST(CliTest, TreePrintsTheSampleAsTheControlBuildsItWithCommentedItemsMarked) {
   EXPECT_TRUE(out.contains(QStringLiteral("\n        *area\n")));
   EXPECT_TRUE(out.contains(QStringLiteral("\n        perimeter\n")));
   // Private members stay out of the tree unless asked for.
-  const Outcome withPrivate =
-      RunTool({"tree", sample.Path(), "--depth", "4", "--private"});
+  const Outcome withPrivate = RunTool({"tree", sample.Path(), "--depth", "4", "--private"});
   ASSERT_EQ(withPrivate.code, 0);
   EXPECT_GT(withPrivate.out.count(QLatin1Char('\n')), out.count(QLatin1Char('\n')));
 
@@ -82,7 +81,8 @@ TEST(CliTest, SelectAndFindOpenOnlyThePathToTheirItem) {
   ASSERT_EQ(select.code, 0) << select.err.toStdString();
   EXPECT_TRUE(select.out.contains(QStringLiteral("*area")));
   EXPECT_FALSE(select.out.contains(QStringLiteral("SvgWriter")));
-  EXPECT_TRUE(select.out.endsWith(QStringLiteral("selected: geometry~geometry~shapes~Circle~area\n")))
+  EXPECT_TRUE(
+      select.out.endsWith(QStringLiteral("selected: geometry~geometry~shapes~Circle~area\n")))
       << select.out.toStdString();
 
   const Outcome find = RunTool({"tree", sample.Path(), "--depth", "0", "--find", "toText"});
@@ -124,11 +124,13 @@ TEST(CliTest, BadInputGoesToTheErrorStreamWithItsPlaceAndANonZeroCode) {
   EXPECT_TRUE(missingFile.out.isEmpty());
 
   SampleProject sample;
-  sample.Write(QStringLiteral("<ScrivaraProject version=\"1.0\">\n  <Settings>\n</ScrivaraProject>\n"));
+  sample.Write(
+      QStringLiteral("<ScrivaraProject version=\"1.0\">\n  <Settings>\n</ScrivaraProject>\n"));
   const Outcome malformed = RunTool({"info", sample.Path()});
   EXPECT_EQ(malformed.code, 1);
   EXPECT_TRUE(malformed.err.contains(sample.Path())) << malformed.err.toStdString();
-  EXPECT_TRUE(malformed.err.contains(QStringLiteral("geometry.svproj:3:"))) << malformed.err.toStdString();
+  EXPECT_TRUE(malformed.err.contains(QStringLiteral("geometry.svproj:3:")))
+      << malformed.err.toStdString();
 
   const Outcome noIndex = RunTool({"tree", "--doxygen-xml", "/no/such/xml"});
   EXPECT_EQ(noIndex.code, 1);
@@ -140,8 +142,8 @@ TEST(CliTest, BadInputGoesToTheErrorStreamWithItsPlaceAndANonZeroCode) {
 TEST(CliTest, TheToolReadsTheDoxygenXmlOfARealLibrary) {
   QProcess tool;
   tool.start(QStringLiteral(SV_SCRIVARA),
-             {"tree", "--doxygen-xml", QStringLiteral(SV_PUGIXML_XML), "--depth", "3",
-              "--select", "pugixml~pugi~xml_document~load_string"});
+             {"tree", "--doxygen-xml", QStringLiteral(SV_PUGIXML_XML), "--depth", "3", "--select",
+              "pugixml~pugi~xml_document~load_string"});
   ASSERT_TRUE(tool.waitForFinished(60000));
   const QString out = QString::fromUtf8(tool.readAllStandardOutput());
   const QString err = QString::fromUtf8(tool.readAllStandardError());

@@ -115,10 +115,14 @@ TEST(CommentEditorOffersTest, LegacyTagsAndFlagsOfAnElementThatHasThem) {
             "- Available to add\n"
             "  See Also = Click to add this tag... (add)\n"
             "  Author = Click to add this tag... (add)");
-  EXPECT_TRUE(f.editor.TagsList()->Item("new:##AUTHOR")->Description().startsWith(
-      "This tag has already been added"));
-  EXPECT_TRUE(f.editor.TagsList()->Item("new:##SEEALSO")->Description().startsWith(
-      "This tag has not be added"));
+  EXPECT_TRUE(f.editor.TagsList()
+                  ->Item("new:##AUTHOR")
+                  ->Description()
+                  .startsWith("This tag has already been added"));
+  EXPECT_TRUE(f.editor.TagsList()
+                  ->Item("new:##SEEALSO")
+                  ->Description()
+                  .startsWith("This tag has not be added"));
   EXPECT_EQ(f.Flags(), "[x] Exclude <##EXCLUDE>\n[ ] ##HIDDEN <##HIDDEN>")
       << "refilling the list keeps the flags";
 }

@@ -6,10 +6,10 @@
 #include "foundation/modProjectView.h"
 #include "model/CodeItem.h"
 #include "model/TaggedCommentDef.h"
+#include "support/TempSettings.h"
 #include "ui/Dock.h"
 #include "ui/ExplorerBar.h"
 #include "ui/PropertyList.h"
-#include "support/TempSettings.h"
 #include "widgets/frmTipPopup.h"
 
 namespace sv::test {
@@ -26,9 +26,6 @@ class RecordingPages : public CommentPages {
     calls << "ShowTag " + def->TagIdentifier();
   }
   void HideAll() override { calls << "HideAll"; }
-  void RemoveControls(const QStringList& names) override {
-    calls << "RemoveControls " + names.join(',');
-  }
   void UpdateDescription(const std::shared_ptr<CodeItem>& item, bool loading) override {
     calls << QStringLiteral("UpdateDescription %1 %2")
                  .arg(item->Name().value_or(QString()))
@@ -114,9 +111,9 @@ TEST(CommentEditorPagesTest, PagesAreShownThroughTheSeam) {
   EXPECT_EQ(pages->Take(), "ShowLayout Circle Standard");
   EXPECT_FALSE(f.editor.TagsList()->Visible());
 
-  // Another kind of element: the run-time controls of the old pages go.
+  // Another kind of element keeps the layout the author chose.
   f.Load("Geometry.Shapes.Circle.Area", "SV:Method");
-  EXPECT_EQ(pages->Take().substr(0, 50), "UpdateDescription Area 1\nRemoveControls SUMMARY,RE");
+  EXPECT_EQ(pages->Take(), "UpdateDescription Area 1\nShowLayout Area Standard");
   f.editor.setCurrentCodeElement(nullptr);
   EXPECT_EQ(pages->Take(), "HideAll");
   EXPECT_EQ(f.services.message->Count(), 0);

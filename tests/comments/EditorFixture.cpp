@@ -31,7 +31,7 @@ definitions sv.vbsource caption="Source code"
     SV:Component moniker=comp
       SV:Variable moniker=var
       SV:UDT moniker=udt
-tags designer=SV.HTMLEdit
+tags designer=SVContentDesigners5.dsrHTMLEdit
   ##SUMMARY name=Summary caption=Description group=Common xml=summary image=summary namespaces=SV:NameSpace,SV:Class,SV:Method,SV:Property,SV:Component general description="What the element is for."
   ##REMARKS name=Remarks caption=Remarks group=Common xml=remarks image=remarks namespaces=SV:Class,SV:Method,SV:Property
   ##RETURNS name=Returns caption=Returns group=Common xml=returns image=returns namespaces=SV:Method
@@ -85,8 +85,9 @@ EditorFixture::EditorFixture() : model(QString::fromUtf8(kModel)), scopedModel(m
   editor.setAppPath(QStringLiteral(SV_SOURCE_DIR "/data"));
   editor.setSVProject(model.Project());
   auto record = [this](const QString& text) { events << text; };
-  QObject::connect(&editor, &CommentEditor::DirtyStateChanged,
-                   [this, record] { record(QStringLiteral("DirtyStateChanged %1").arg(editor.Dirty())); });
+  QObject::connect(&editor, &CommentEditor::DirtyStateChanged, [this, record] {
+    record(QStringLiteral("DirtyStateChanged %1").arg(editor.Dirty()));
+  });
   QObject::connect(&editor, &CommentEditor::TaggedCommentAdded, [record](auto item, auto comment) {
     record(QStringLiteral("TaggedCommentAdded %1 %2 status=%3")
                .arg(item->Name().value_or(QString()), comment->TagIdentifier())
@@ -105,7 +106,8 @@ EditorFixture::EditorFixture() : model(QString::fromUtf8(kModel)), scopedModel(m
                                      comment->Text()));
                    });
   QObject::connect(&editor, &CommentEditor::UpdateItemImage, [record](auto def, auto item) {
-    record(QStringLiteral("UpdateItemImage %1 %2").arg(def->Key(), item->Name().value_or(QString())));
+    record(
+        QStringLiteral("UpdateItemImage %1 %2").arg(def->Key(), item->Name().value_or(QString())));
   });
 }
 

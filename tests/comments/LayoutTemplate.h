@@ -16,7 +16,9 @@ class LayoutTemplate : public Template {
   class Layout : public PageLayout {
    public:
     Layout(QString name, QString caption, QString nameSpaces)
-        : mName(std::move(name)), mCaption(std::move(caption)), mNameSpaces(std::move(nameSpaces)) {}
+        : mName(std::move(name)),
+          mCaption(std::move(caption)),
+          mNameSpaces(std::move(nameSpaces)) {}
     QString Name() const override { return mName; }
     bool Enabled() const override { return true; }
     void setEnabled(bool) override {}
@@ -37,8 +39,7 @@ class LayoutTemplate : public Template {
   }
 
   QString Name() const override { return mName; }
-  std::shared_ptr<KeyedCollection<std::shared_ptr<TOCDefinition>>> TOCDefinitions()
-      const override {
+  std::shared_ptr<KeyedCollection<std::shared_ptr<TOCDefinition>>> TOCDefinitions() const override {
     return nullptr;
   }
   std::shared_ptr<KeyedCollection<std::shared_ptr<TemplateVariable>>> Variables() const override {

@@ -1,7 +1,7 @@
 #include "foundation/FilePath.h"
 
-#include "support/TempSettings.h"
 #include "model/Error.h"
+#include "support/TempSettings.h"
 
 #include <gtest/gtest.h>
 #include <QDir>

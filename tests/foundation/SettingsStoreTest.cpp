@@ -1,7 +1,7 @@
 #include "foundation/SettingsStore.h"
 
-#include "support/TempSettings.h"
 #include "model/Error.h"
+#include "support/TempSettings.h"
 
 #include <gtest/gtest.h>
 #include <QDir>

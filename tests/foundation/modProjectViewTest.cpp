@@ -1,10 +1,10 @@
 #include "foundation/modProjectView.h"
 
-#include "support/TempSettings.h"
 #include "foundation/ErrorReport.h"
 #include "foundation/ReportObjectRegistry.h"
 #include "foundation/SpellingEngine.h"
 #include "support/FakeServices.h"
+#include "support/TempSettings.h"
 
 #include <gtest/gtest.h>
 #include <QStringList>

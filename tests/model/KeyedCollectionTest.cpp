@@ -18,7 +18,7 @@ TEST(KeyedCollectionTest, KeepsOrderAndFindsKeysWithoutRegardToCase) {
   c.Add("one", "A");
   c.Add("three", "C");
   c.Add("two", "B", QStringLiteral("c"));  // before the key "C"
-  c.Add("zero", "Z", 1);                  // before the first entry
+  c.Add("zero", "Z", 1);                   // before the first entry
   c.Add("four", "D", {}, QStringLiteral("C"));
   c.Add("unkeyed");
   EXPECT_EQ(Listing(c), "Z=zero A=one B=two C=three D=four =unkeyed");

@@ -30,7 +30,8 @@ QString ReadFile(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-QString ProjectText(const QString& xml, const QString& root = QStringLiteral(" root=\"geometry\"")) {
+QString ProjectText(const QString& xml,
+                    const QString& root = QStringLiteral(" root=\"geometry\"")) {
   return QStringLiteral(
              "<ScrivaraProject version=\"1.0\">\n"
              "  <CodeSource provider=\"doxygen\" xml=\"%1\"%2/>\n"

@@ -13,8 +13,7 @@ namespace sv {
 namespace {
 
 QString SampleXml() {
-  return QStringLiteral(SV_BINARY_DIR) +
-         QStringLiteral("/samples/geometry/xml");
+  return QStringLiteral(SV_BINARY_DIR) + QStringLiteral("/samples/geometry/xml");
 }
 
 QString Flags(const DoxygenMember& m) {
