@@ -232,7 +232,8 @@ class ProjectView : public QObject, public Dumpable {
                         const QString& caption, TreeNode* parentNode);
   TreeNode* addNodeOnce(TreeNode* parent, const QString& key, const QString& text,
                         const QString& image);
-  void setInitialTick(TreeNode* node, const NamespaceDef& nd, TreeNode* parentNode);
+  void setInitialTick(TreeNode* node, const NamespaceDef& nd, const std::shared_ptr<CodeItem>& obj,
+                      TreeNode* parentNode);
   void addPlaceholder(TreeNode* node, const NamespaceDef& nd);
   void nodeExpanded(TreeNode* node);
   void AddChildNamespaceItems(const std::shared_ptr<NamespaceDef>& nd,
@@ -244,8 +245,9 @@ class ProjectView : public QObject, public Dumpable {
   std::shared_ptr<CodeItem> objectFromQualifiedName(const QString& qualifiedName);
 
   // Checks (ProjectViewChecks.cpp). nodeChecked answers the tick it already passed on to the
-  // node's children, so that SetChildrenChecked need not walk the branch twice.
-  std::optional<bool> nodeChecked(TreeNode* node);
+  // node's children, so that SetChildrenChecked need not walk the branch twice. A caller that
+  // already holds the node's item passes it, which spares the provider a lookup per node.
+  std::optional<bool> nodeChecked(TreeNode* node, const std::shared_ptr<CodeItem>& known = {});
   void setChildrenChecked(TreeNode* node, bool value);
   void setItemExcludeValue(NamespaceProvider& np, const QString& qName, bool value);
   void excludeSiblingNodes(NamespaceProvider& np, TreeNode* n);

@@ -64,7 +64,8 @@ void ProjectView::NodeChecked(TreeNode* node) {
 }
 
 // Answers the tick it passed on to the node's children, or nothing when it passed none on.
-std::optional<bool> ProjectView::nodeChecked(TreeNode* node) {
+std::optional<bool> ProjectView::nodeChecked(TreeNode* node,
+                                              const std::shared_ptr<CodeItem>& known) {
   if (!node) return std::nullopt;
   if (isFolder(node)) {
     if (!node->Expanded()) nodeExpanded(node);
@@ -99,7 +100,7 @@ std::optional<bool> ProjectView::nodeChecked(TreeNode* node) {
   }
 
   const bool tick = node->Checked();
-  const auto obj = np->GetItem(qName);
+  const auto obj = known ? known : np->GetItem(qName);
   if (!obj) objectRequired();
   obj->setIncludeFlag(tick);
   obj->setExcludeFlag(!tick);

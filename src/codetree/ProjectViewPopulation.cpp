@@ -169,7 +169,7 @@ void ProjectView::AddNamespaceItem(std::shared_ptr<NamespaceDef>& nd,
     const auto comments = obj->TaggedComments();
     node->setBold(comments && comments->Count() > 0);
   }
-  setInitialTick(node, *nd, parentNode);
+  setInitialTick(node, *nd, obj, parentNode);
   addPlaceholder(node, *nd);
 }
 
@@ -216,14 +216,15 @@ TreeNode* ProjectView::addItemNode(const NamespaceDef& nd, const CodeItem& obj, 
   return addNodeOnce(folder, key, caption, image);
 }
 
-void ProjectView::setInitialTick(TreeNode* node, const NamespaceDef& nd, TreeNode* parentNode) {
+void ProjectView::setInitialTick(TreeNode* node, const NamespaceDef& nd,
+                                 const std::shared_ptr<CodeItem>& obj, TreeNode* parentNode) {
   bool tick = false;
   if (!nd.CanExclude())
     tick = true;
   else if (!parentNode || parentNode->Checked())
     tick = !isExcluded(node->Key());
   node->setChecked(tick);
-  nodeChecked(node);
+  nodeChecked(node, obj);
 }
 
 void ProjectView::addPlaceholder(TreeNode* node, const NamespaceDef& nd) {
@@ -293,6 +294,8 @@ void ProjectView::AddChildNamespaceItems(const std::shared_ptr<NamespaceDef>& nd
     if (mSupportsSelection && !cnd->Selectable()) continue;
     const auto col = cnp->GetItems(cnd, parentItem, filter);
     if (!col) continue;
+    // Each item may bring a placeholder for its own children.
+    mTree->ReserveKeys(2 * col->Count());
     for (const auto& item : *col) {
       // Comment mode drops hidden members whatever the provider's filter let through.
       const bool member = std::dynamic_pointer_cast<CodeMember>(item) != nullptr;

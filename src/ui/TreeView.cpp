@@ -99,6 +99,10 @@ TreeNode* TreeView::Add(TreeNode* relative, TreeRelationship relationship, const
   return node;
 }
 
+void TreeView::ReserveKeys(int count) {
+  if (count > 0) mKeys.reserve(mKeys.size() + count);
+}
+
 TreeNode* TreeView::AddChild(TreeNode* parent, const QString& key, const QString& text,
                              const QString& image) {
   return Add(parent, parent ? TreeRelationship::Child : TreeRelationship::Last, key, text, image);

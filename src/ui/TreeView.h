@@ -50,6 +50,9 @@ class TreeView : public QObject {
   void Remove(TreeNode* node);
   void Remove(const QString& key);
   void Clear();
+  // Makes room for `count` more keyed nodes at once, so that a host about to add a large batch
+  // does not pay for the key index growing step by step. Changes nothing visible.
+  void ReserveKeys(int count);
   // Moves a node with its branch; moving it next to or under a node of its own branch raises
   // InvalidCall.
   void Move(TreeNode* node, TreeNode* relative, TreeRelationship relationship);
