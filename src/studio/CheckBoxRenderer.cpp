@@ -23,10 +23,7 @@ void CheckBoxRenderer::showBox() {
   setChecked(mBox->Value() == 1);
   setEnabled(mBox->Enabled());
   setFont(QtConvert::ToQFont(mBox->Font()));
-  QPalette colours = palette();
-  colours.setColor(QPalette::Window, QtConvert::ToQColor(mBox->BackColor()));
-  colours.setColor(QPalette::WindowText, QtConvert::ToQColor(mBox->ForeColor()));
-  setPalette(colours);
+  RenderedWidgets::ApplyColours(this, mBox->BackColor(), mBox->ForeColor());
   RenderedWidgets::ApplyVisible(this, mBox->Visible());
 }
 

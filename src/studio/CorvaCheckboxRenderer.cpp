@@ -21,10 +21,7 @@ void CorvaCheckboxRenderer::showBox() {
   setChecked(mBox->Value() == 1);
   setEnabled(mBox->Enabled());
   setFont(QtConvert::ToQFont(mBox->Font()));
-  QPalette colours = palette();
-  colours.setColor(QPalette::Window, QtConvert::ToQColor(mBox->BackColor()));
-  colours.setColor(QPalette::WindowText, QtConvert::ToQColor(mBox->ForeColor()));
-  setPalette(colours);
+  RenderedWidgets::ApplyColours(this, mBox->BackColor(), mBox->ForeColor());
   update();
 }
 

@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QHash>
+#include <QPalette>
 #include <QPointer>
 #include <QWidget>
+
+#include "studio/QtConvert.h"
 
 namespace sv {
 
@@ -27,6 +30,13 @@ QWidget* RenderedWidgets::WidgetFor(QObject* object) {
     if (QWidget* drawn = registry().value(current)) return drawn;
   }
   return QApplication::activeWindow();
+}
+
+void RenderedWidgets::ApplyColours(QWidget* widget, quint32 back, quint32 fore) {
+  QPalette colours = widget->palette();
+  colours.setColor(QPalette::Window, QtConvert::ToQColor(back));
+  colours.setColor(QPalette::WindowText, QtConvert::ToQColor(fore));
+  widget->setPalette(colours);
 }
 
 void RenderedWidgets::ApplyVisible(QWidget* widget, bool visible) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QObject;
 class QWidget;
 
@@ -17,6 +19,8 @@ class RenderedWidgets {
   // A state object's Visible flag. Showing a widget is its window's business, so the flag only
   // hides, and takes back a hide of its own.
   static void ApplyVisible(QWidget* widget, bool visible);
+  // A state object's back and fore colours (0xRRGGBB or system colours) as the widget's palette.
+  static void ApplyColours(QWidget* widget, quint32 back, quint32 fore);
 };
 
 }  // namespace sv

@@ -3,6 +3,7 @@
 #include <QCursor>
 
 #include "studio/QtConvert.h"
+#include "studio/RenderedWidgets.h"
 #include "ui/SystemColors.h"
 
 namespace sv {
@@ -10,10 +11,7 @@ namespace sv {
 TipPopupRenderer::TipPopupRenderer(frmTipPopup* form, QWidget* parent)
     : QLabel(parent, Qt::ToolTip), mForm(form) {
   setAutoFillBackground(true);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Window, QtConvert::ToQColor(SystemColor::InfoBackground));
-  colours.setColor(QPalette::WindowText, QtConvert::ToQColor(SystemColor::InfoText));
-  setPalette(colours);
+  RenderedWidgets::ApplyColours(this, SystemColor::InfoBackground, SystemColor::InfoText);
   setFrameShape(QFrame::Box);
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
