@@ -10,9 +10,6 @@ namespace sv {
 
 namespace {
 
-// The classic store's "Permission denied".
-constexpr long kPermissionDenied = 70;
-
 QString SettingsFileName() {
   return QStringLiteral("scrivara.ini");
 }
@@ -69,7 +66,8 @@ void CheckStatus(const QSettings& settings) {
     Raise(ErrorNumber::BadFileFormat,
           QStringLiteral("Bad file format: %1").arg(settings.fileName()));
   if (settings.status() == QSettings::AccessError)
-    Raise(kPermissionDenied, QStringLiteral("Permission denied: %1").arg(settings.fileName()));
+    Raise(ErrorNumber::PermissionDenied,
+          QStringLiteral("Permission denied: %1").arg(settings.fileName()));
 }
 
 // Writes and checks that the file took it.

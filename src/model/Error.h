@@ -16,6 +16,7 @@ inline constexpr long ObjectRequired = 424;
 inline constexpr long NotSupported = 438;  // the object lacks the member
 inline constexpr long DuplicateKey = 457;  // key already in a collection
 inline constexpr long FileNotFound = 53;
+inline constexpr long PermissionDenied = 70;  // a settings or project file that cannot be written
 inline constexpr long PathNotFound = 76;
 inline constexpr long BadFileFormat = 321;  // malformed project, layout or configuration file
 inline constexpr long ApplicationDefined = 65535;
