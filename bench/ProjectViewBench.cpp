@@ -28,18 +28,18 @@ ModelBuilder makeModel() {
                      "        Member image=member\n"));
   const auto add = [&built](const char* definition, const QString& name,
                             const std::shared_ptr<sv::CodeItem>& parent, bool member) {
-    ModelBuilder::ItemInfo spec;
-    spec.definition = QLatin1String(definition);
-    spec.name = name;
-    spec.qualifiedName =
+    ModelBuilder::ItemInfo info;
+    info.definition = QLatin1String(definition);
+    info.name = name;
+    info.qualifiedName =
         parent ? parent->QualifiedName().value_or(QString()) + QLatin1Char('~') + name : name;
-    spec.includeFlag = true;
-    spec.excludeFlag = false;
+    info.includeFlag = true;
+    info.excludeFlag = false;
     if (member) {
-      spec.kind = ModelBuilder::Kind::Member;
-      spec.access = QStringLiteral("Public");
+      info.kind = ModelBuilder::Kind::Member;
+      info.access = QStringLiteral("Public");
     }
-    return built.AddItem(spec, parent);
+    return built.AddItem(info, parent);
   };
   const auto root = add("Root", QStringLiteral("Root"), nullptr, false);
   for (int n = 1; n <= 10; ++n) {

@@ -160,17 +160,17 @@ void ProjectView::Terminate() {
 ProjectViewSettings& ProjectView::viewSettings() const {
   auto settings = Model().AppSettings();
   auto view = settings ? settings->ProjectViewSettings() : nullptr;
-  if (!view) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+  if (!view) RaiseObjectRequired();
   return *view;
 }
 
 SVProject& ProjectView::project() const {
-  if (!mSVProject) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+  if (!mSVProject) RaiseObjectRequired();
   return *mSVProject;
 }
 
 StringCollection& ProjectView::exclusions() const {
-  if (!mExclusions) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+  if (!mExclusions) RaiseObjectRequired();
   return *mExclusions;
 }
 
@@ -180,7 +180,7 @@ std::shared_ptr<NamespaceProvider> ProjectView::providerOf(const NamespaceDef& n
 
 std::shared_ptr<NamespaceDef> ProjectView::definitionOf(const TreeNode& node) const {
   auto nd = mNamespaceDefs ? mNamespaceDefs->ItemByMoniker(node.Tag()) : nullptr;
-  if (!nd) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+  if (!nd) RaiseObjectRequired();
   return nd;
 }
 
@@ -353,7 +353,7 @@ void ProjectView::HideEditButtons() {
 
 void ProjectView::PrepNamespaceDef(const std::shared_ptr<NamespaceDef>& nd) {
   Trap(this, "PrepNamespaceDef", [&] {
-    if (!nd) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+    if (!nd) RaiseObjectRequired();
     sv::PrepNamespaceDef(*nd);
   });
 }

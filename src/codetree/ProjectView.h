@@ -35,6 +35,9 @@ class ProjectView : public QObject, public Dumpable {
   Q_OBJECT
 
  public:
+  // The key of the placeholder child that stands for children not loaded yet ends with this.
+  static inline const QString kPlaceholderSuffix = QStringLiteral("_dummy");
+
   explicit ProjectView(QObject* parent = nullptr);
   ~ProjectView() override;
 

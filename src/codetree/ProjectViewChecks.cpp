@@ -13,10 +13,6 @@ namespace sv {
 
 namespace {
 
-[[noreturn]] void objectRequired() {
-  Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
-}
-
 // A group folder is the one kind of node without a tag (placeholders aside).
 bool isFolder(const TreeNode* node) {
   return node->Tag().isEmpty();
@@ -47,14 +43,14 @@ void ProjectView::setExclusions(const std::shared_ptr<StringCollection>& value) 
 
 bool ProjectView::IsNodeChecked(const TreeNode* node) const {
   return Trap(this, "IsNodeChecked", [&] {
-    if (!node) objectRequired();
+    if (!node) RaiseObjectRequired();
     return node->Checked();
   });
 }
 
 void ProjectView::setIsNodeChecked(TreeNode* node, bool value) {
   Trap(this, "IsNodeChecked", [&] {
-    if (!node) objectRequired();
+    if (!node) RaiseObjectRequired();
     node->setChecked(value);
   });
 }
@@ -65,7 +61,7 @@ void ProjectView::NodeChecked(TreeNode* node) {
 
 // Answers the tick it passed on to the node's children, or nothing when it passed none on.
 std::optional<bool> ProjectView::nodeChecked(TreeNode* node,
-                                              const std::shared_ptr<CodeItem>& known) {
+                                             const std::shared_ptr<CodeItem>& known) {
   if (!node) return std::nullopt;
   if (isFolder(node)) {
     if (!node->Expanded()) nodeExpanded(node);
@@ -77,7 +73,7 @@ std::optional<bool> ProjectView::nodeChecked(TreeNode* node,
   const auto nd = definitionOf(*node);
   sv::PrepNamespaceDef(*nd);
   const auto np = providerOf(*nd);
-  if (!np) objectRequired();
+  if (!np) RaiseObjectRequired();
   const QString qName = node->Key();
   SV_TRAP_LOCAL(qName);
   TreeNode* parent = node->Parent();
@@ -101,7 +97,7 @@ std::optional<bool> ProjectView::nodeChecked(TreeNode* node,
 
   const bool tick = node->Checked();
   const auto obj = known ? known : np->GetItem(qName);
-  if (!obj) objectRequired();
+  if (!obj) RaiseObjectRequired();
   obj->setIncludeFlag(tick);
   obj->setExcludeFlag(!tick);
   if (tick)
@@ -119,7 +115,7 @@ std::optional<bool> ProjectView::nodeChecked(TreeNode* node,
 
 void ProjectView::SetChildrenChecked(TreeNode* node, bool value) {
   Trap(this, "SetChildrenChecked", [&] {
-    if (!node) objectRequired();
+    if (!node) RaiseObjectRequired();
     setChildrenChecked(node, value);
   });
 }
@@ -158,7 +154,7 @@ void ProjectView::SetItemExcludeValue(const std::shared_ptr<NamespaceProvider>& 
                                       const QString& qName, bool value) {
   Trap(this, "SetItemExcludeValue",
        [&] {
-         if (!np) objectRequired();
+         if (!np) RaiseObjectRequired();
          setItemExcludeValue(*np, qName, value);
        },
        {{"qName", qName}, {"Value", value}});
@@ -178,7 +174,7 @@ void ProjectView::setItemExcludeValue(NamespaceProvider& np, const QString& qNam
 
 void ProjectView::ExcludeSiblingNodes(const std::shared_ptr<NamespaceProvider>& np, TreeNode* n) {
   Trap(this, "ExcludeSiblingNodes", [&] {
-    if (!np || !n) objectRequired();
+    if (!np || !n) RaiseObjectRequired();
     excludeSiblingNodes(*np, n);
   });
 }
@@ -215,7 +211,7 @@ void ProjectView::CheckByAccess(const QString& access) {
            const auto itemAccess = IgnoreErrors([&] {
              const auto np = providerOf(*definitionOf(*node));
              const auto item = np ? np->GetItem(node->Key()) : nullptr;
-             if (!item) objectRequired();
+             if (!item) RaiseObjectRequired();
              return item->Access();
            });
            if (!itemAccess || !*itemAccess) continue;
@@ -228,7 +224,7 @@ void ProjectView::CheckByAccess(const QString& access) {
 
 bool ProjectView::CanSetRoot(TreeNode* node) {
   return Trap(this, "CanSetRoot", [&] {
-    if (!node) objectRequired();
+    if (!node) RaiseObjectRequired();
     if (isFolder(node)) return false;
     return definitionOf(*node)->Flags().contains(QLatin1Char('r'));
   });
@@ -244,7 +240,7 @@ void ProjectView::SetRoot(TreeNode* node, bool isRoot) {
            if (isFolder(sibling)) continue;
            const auto np = providerOf(*definitionOf(*sibling));
            const auto item = np ? np->GetItem(sibling->Key()) : nullptr;
-           if (!item) objectRequired();
+           if (!item) RaiseObjectRequired();
            const bool root = sibling == node && isRoot;
            item->setRootFlag(root);
            sibling->setBold(root);

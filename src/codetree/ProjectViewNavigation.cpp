@@ -15,7 +15,6 @@ namespace sv {
 
 namespace {
 
-const QString kPlaceholderSuffix = QStringLiteral("_dummy");
 constexpr int kKeyN = 78;
 
 // The tree in reading order: a node, its children, then what follows it.
@@ -34,7 +33,7 @@ TreeNode* readingPrevious(const TreeNode* node) {
 }
 
 bool isPlaceholder(const TreeNode* node) {
-  return node && node->Key().endsWith(kPlaceholderSuffix);
+  return node && node->Key().endsWith(ProjectView::kPlaceholderSuffix);
 }
 
 }  // namespace

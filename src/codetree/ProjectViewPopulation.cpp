@@ -22,16 +22,11 @@ namespace sv {
 
 namespace {
 
-const QString kPlaceholderSuffix = QStringLiteral("_dummy");
 const QString kClosedFolder = QStringLiteral("Closed");
 const QString kOpenFolder = QStringLiteral("Open");
 constexpr quint32 kPrivateGrey = 0x808080;
 // The colour that overlay pictures treat as transparent.
 constexpr quint32 kOverlayKeyColour = 0x00FF00;
-
-[[noreturn]] void objectRequired() {
-  Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
-}
 
 // A generic type name ("List`1") is captioned without its arity.
 QString RemoveGenericSuffix(const QString& name) {
@@ -82,7 +77,7 @@ void ProjectView::LoadFromNamespaceDefs(const std::shared_ptr<sv::NamespaceDefs>
                                         const QString& moniker, bool clear) {
   Trap(this, "LoadFromNamespaceDefs",
        [&] {
-         if (!namespaceDefs) objectRequired();
+         if (!namespaceDefs) RaiseObjectRequired();
          const auto root = GetRootItem(project(), *namespaceDefs, moniker);
          loadRootItem(namespaceDefs, root, clear);
        },
@@ -97,7 +92,7 @@ void ProjectView::LoadFromNamespaceRootItem(const std::shared_ptr<sv::NamespaceD
 
 void ProjectView::loadRootItem(const std::shared_ptr<sv::NamespaceDefs>& namespaceDefs,
                                const std::shared_ptr<CodeItem>& rootItem, bool clear) {
-  if (!namespaceDefs || !rootItem) objectRequired();
+  if (!namespaceDefs || !rootItem) RaiseObjectRequired();
   const TreeViewLock lock(*this);
   if (clear) {
     ClearNodes();
@@ -108,7 +103,7 @@ void ProjectView::loadRootItem(const std::shared_ptr<sv::NamespaceDefs>& namespa
     mergeDefinitions(*namespaceDefs);
   }
   std::shared_ptr<NamespaceDef> nd = namespaceDefs->Item(1);
-  if (!nd) objectRequired();
+  if (!nd) RaiseObjectRequired();
 
   const auto owner = nd->Owner();
   const QString viewOptions = owner ? owner->ViewOptionFlags() : QString();
@@ -179,17 +174,17 @@ QString ProjectView::captionOf(std::shared_ptr<NamespaceDef>& nd,
     return RemoveGenericSuffix(obj->Name().value_or(QString()));
   const auto np = providerOf(*nd);
   const auto ddp = np ? np->DDP() : nullptr;
-  if (!ddp) objectRequired();
+  if (!ddp) RaiseObjectRequired();
   if (!parentNode) {
     // A top item keeps an empty caption here; only its definition is resolved.
     nd = ddp->ResolveNamespaceDef(nd, obj, nd->TypeMoniker(), nullptr);
-    if (!nd) objectRequired();
+    if (!nd) RaiseObjectRequired();
     return {};
   }
   const auto parentObj = np->GetItem(parentNode->Key());
   if (!parentNode->Parent()) ddp->SetParentContext(parentObj);
   nd = ddp->ResolveNamespaceDef(nd, obj, nd->TypeMoniker(), parentObj);
-  if (!nd) objectRequired();
+  if (!nd) RaiseObjectRequired();
   return ddp->EvaluateCaption(nd->CaptionExpression());
 }
 
@@ -253,7 +248,7 @@ void ProjectView::nodeExpanded(TreeNode* node) {
   const auto nd = definitionOf(*node);
   sv::PrepNamespaceDef(*nd);
   const auto np = providerOf(*nd);
-  if (!np) objectRequired();
+  if (!np) RaiseObjectRequired();
   const QString qName = node->Key();
   SV_TRAP_LOCAL(qName);
   TreeNode* placeholder = node->Child();
@@ -275,7 +270,7 @@ void ProjectView::AddChildNamespaceItems(const std::shared_ptr<NamespaceDef>& nd
   if (!mSupportsSelection && parentItem->TypeName() == QLatin1String("Component"))
     parentItem->setIncludeFlag(true);
   const auto np = providerOf(*nd);
-  if (!np) objectRequired();
+  if (!np) RaiseObjectRequired();
   const QString relevantContentFilter = np->GetRelevantContentFilter(parentItem);
   if (!relevantContentFilter.isEmpty()) emit ItemPopulated(parentItem, relevantContentFilter);
 
@@ -330,7 +325,7 @@ QString ProjectView::GetImageName(const NamespaceDef& nd, const CodeItem& obj) c
 
 void ProjectView::UpdateNodeImage(TreeNode* node, const std::shared_ptr<CodeItem>& obj) {
   Trap(this, "UpdateNodeImage", [&] {
-    if (!node || !obj) objectRequired();
+    if (!node || !obj) RaiseObjectRequired();
     node->setImage(GetImageName(*definitionOf(*node), *obj));
   });
 }
@@ -404,9 +399,9 @@ std::shared_ptr<CodeItem> ProjectView::GetObjectFromQualifiedName(const QString&
 }
 
 std::shared_ptr<CodeItem> ProjectView::objectFromQualifiedName(const QString& qualifiedName) {
-  if (!mNamespaceDefs || mNamespaceDefs->Count() < 1) objectRequired();
+  if (!mNamespaceDefs || mNamespaceDefs->Count() < 1) RaiseObjectRequired();
   const auto np = providerOf(*mNamespaceDefs->Item(1));
-  if (!np) objectRequired();
+  if (!np) RaiseObjectRequired();
   return np->GetItem(qualifiedName);
 }
 

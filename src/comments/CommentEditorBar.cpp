@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 #include <QSet>
 
+#include "comments/CommentBarKeys.h"
 #include "comments/CommentPages.h"
 #include "comments/DesignerContainer.h"
 #include "comments/IContentDesigner.h"
@@ -26,13 +27,14 @@ namespace sv {
 
 namespace {
 
-const QString kOther = QStringLiteral("other");
-const QString kContainer = QStringLiteral("checkboxcontainer");
+using commentbar::kContainer;
+using commentbar::kLayoutPrefix;
+using commentbar::kOther;
+
 const QString kPagesPopup = QStringLiteral("p-fullpageedit");
 const QString kFlagsPopup = QStringLiteral("Flags");
 const QString kTipPopup = QStringLiteral("TipPopup");
 const QString kFlagPrefix = QStringLiteral("flag:");
-const QString kLayoutPrefix = QStringLiteral("inplaceedit");
 const QString kTicked = QStringLiteral("_ticked");
 const QString kTick = QStringLiteral("tick");
 

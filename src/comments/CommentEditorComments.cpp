@@ -1,6 +1,7 @@
 // How comments enter, change and leave an element, and the flags that stand for comments.
 #include "comments/CommentEditor.h"
 
+#include "comments/CommentBarKeys.h"
 #include "comments/CommentPages.h"
 #include "comments/ElementFacts.h"
 #include "comments/IContentDesigner.h"
@@ -244,8 +245,7 @@ void CommentEditor::TickFlagCheckbox(const QString& TagID) {
 void CommentEditor::UnloadFlagCheckboxes() {
   mCheckBoxes->Clear();
   // The pane counts the boxes placed in it; a new set starts at its top again.
-  ExplorerBarItem* container =
-      mEb->Group(QStringLiteral("flags"))->Item(QStringLiteral("checkboxcontainer"));
+  ExplorerBarItem* container = mEb->Group(commentbar::kFlags)->Item(commentbar::kContainer);
   ExplorerBarClient client = container->Client();
   client.Tag = 0;
   container->setClient(client);

@@ -1,6 +1,7 @@
 // Designer hosting: which designer edits a page tag, how it is made, shown, fed and let go.
 #include "comments/CommentEditor.h"
 
+#include "comments/CommentBarKeys.h"
 #include "comments/CommentEditorHost.h"
 #include "comments/CommentPages.h"
 #include "comments/DesignerContainer.h"
@@ -22,22 +23,17 @@ namespace sv {
 
 namespace {
 
+using commentbar::kFixedItems;
+using commentbar::kLayoutPrefix;
+using commentbar::kNoDesigner;
+
 const QString kHTMLEdit = QStringLiteral("HTMLEdit");
-const QString kNoDesigner = QStringLiteral("{None}");
 const QString kTagsContainer = QStringLiteral("tagsContainer");
-const QString kLayoutPrefix = QStringLiteral("inplaceedit");
 
 // A designer's control is named for its class: "SVContentDesigners5.dsrHTMLEdit" stands in
 // "SVContentDesigners5dsrHTMLEdit", so two tags of one class share a control.
 QString controlName(const QString& className) {
   return QString(className).remove(QLatin1Char('.'));
-}
-
-// Bar keys whose pages are no editor: the tag list and the flag boxes.
-bool isListKey(const QString& key) {
-  return key.compare(QLatin1String("other"), Qt::CaseInsensitive) == 0 ||
-         key.compare(QLatin1String("flags"), Qt::CaseInsensitive) == 0 ||
-         key.compare(QLatin1String("checkboxcontainer"), Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
@@ -199,7 +195,7 @@ HtmlEditor* CommentEditor::GetActiveHTMLEditor() const {
   return Trap(this, "GetActiveHTMLEditor", [&]() -> HtmlEditor* {
     const ExplorerBarItem* item = mEb->SelectedItem();
     const QString key = item ? item->Key() : QString();
-    if (isListKey(key)) return nullptr;
+    if (kFixedItems.contains(key, Qt::CaseInsensitive)) return nullptr;
     if (key.startsWith(kLayoutPrefix, Qt::CaseInsensitive)) return mPages->Editor();
     return mActiveDesigner ? mActiveDesigner->HTMLEditor() : nullptr;
   });

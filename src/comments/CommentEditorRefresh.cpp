@@ -5,6 +5,7 @@
 #include <QSet>
 #include <optional>
 
+#include "comments/CommentBarKeys.h"
 #include "comments/CommentPages.h"
 #include "comments/DesignerContainer.h"
 #include "comments/ElementFacts.h"
@@ -28,16 +29,17 @@ namespace sv {
 
 namespace {
 
+using commentbar::kContainer;
+using commentbar::kFixedItems;
+using commentbar::kFlags;
+using commentbar::kNoDesigner;
+using commentbar::kOther;
+
 const QString kFlag = QStringLiteral("f");
-const QString kNoDesigner = QStringLiteral("{None}");
 const QString kOverloads = QStringLiteral("##OVERLOADS");
 const QString kDefaultConstructor = QStringLiteral("##DEFAULTCONSTRUCTORSUMMARY");
-const QString kOther = QStringLiteral("other");
-const QString kContainer = QStringLiteral("checkboxcontainer");
 const QStringList kFixedGroups = {QStringLiteral("other"), QStringLiteral("main"),
                                   QStringLiteral("flags"), QStringLiteral("title")};
-const QStringList kFixedItems = {QStringLiteral("other"), QStringLiteral("flags"),
-                                 QStringLiteral("checkboxcontainer")};
 // The constructors a component may declare itself, in the order they are looked for.
 const QStringList kConstructors = {QStringLiteral("_ctor()"), QStringLiteral("New()")};
 
@@ -112,7 +114,7 @@ void CommentEditor::Refresh(bool JustRepopulatePL) {
          auto populating = qScopeGuard([this] { mPopulating = false; });
          mEb->LockRedraw();
          auto barLock = qScopeGuard([this] { mEb->UnlockRedraw(); });
-         ExplorerBarItem* container = mEb->Group(QStringLiteral("flags"))->Item(kContainer);
+         ExplorerBarItem* container = mEb->Group(kFlags)->Item(kContainer);
          container->setVisible(false);
          mDock->LockRedraw();
          auto dockLock = qScopeGuard([this] { mDock->UnlockRedraw(); });
@@ -293,7 +295,7 @@ void CommentEditor::placeDefinition(const std::shared_ptr<TaggedCommentDef>& def
   if (def->DesignFlag() == kFlag) {
     // The flag boxes stay as they are while only the list is refilled.
     if (state.justList) return;
-    ExplorerBarItem* container = mEb->Group(QStringLiteral("flags"))->Item(kContainer);
+    ExplorerBarItem* container = mEb->Group(kFlags)->Item(kContainer);
     mCheckBoxes->AddCheckbox(mEb, container, def->Caption().isEmpty() ? tag : def->Caption(), tag,
                              def->Description().isEmpty() ? def->Name() : def->Description());
     ++state.flagCount;

@@ -47,7 +47,7 @@ std::shared_ptr<CodeItem> GetRootItem(SVProject& project, const NamespaceDefs& n
       &Module(), "GetRootItem",
       [&] {
         const std::shared_ptr<NamespaceDef> nd = namespaceDefs.Item(1);
-        if (!nd) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+        if (!nd) RaiseObjectRequired();
         const std::shared_ptr<NamespaceProvider> np =
             project.GetNamespaceProvider(nd->ProviderName());
         if (!np)

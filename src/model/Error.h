@@ -49,4 +49,10 @@ class Error : public std::exception {
   throw Error(number, std::move(description), where);
 }
 
+// A member was handed, or found, nothing where it needs an object.
+[[noreturn]] inline void RaiseObjectRequired(
+    std::source_location where = std::source_location::current()) {
+  Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"), where);
+}
+
 }  // namespace sv

@@ -129,7 +129,7 @@ HtmlNode* HtmlNode::appendChild(std::shared_ptr<HtmlNode> child) {
 }
 
 HtmlNode* HtmlNode::insertBefore(std::shared_ptr<HtmlNode> child, HtmlNode* reference) {
-  if (!child) Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+  if (!child) RaiseObjectRequired();
   if (reference && reference->mParent != this)
     Raise(ErrorNumber::SubscriptOutOfRange,
           QStringLiteral("The reference node is no child of this %1").arg(nodeName()));

@@ -99,8 +99,7 @@ CheckBox* EBCheckBoxes::AddCheckbox(ExplorerBar* control, ExplorerBarItem* item,
                                     const QString& toolTipText) {
   return Trap(this, "AddCheckbox",
               [&]() -> CheckBox* {
-                if (!control || !item)
-                  Raise(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
+                if (!control || !item) RaiseObjectRequired();
                 mBar = control;
                 ExplorerBarClient client = item->Client();
                 if (client.IsFrame && client.BackColor != control->BackColor())

@@ -161,35 +161,6 @@ TEST(ModelBuilderTest, TagsCarryEveryField) {
   EXPECT_EQ(Model().AppSettings(), model.AppSettings());
 }
 
-TEST(ModelBuilderTest, TheExampleOfTheHeaderBuilds) {
-  ModelBuilder model(R"-(
-definitions sv.test caption="Test code" view=pift provider=memory
-  Project moniker=proj image=project flags=r CanExclude=false
-    Namespace group=Namespaces GroupedInComments
-      @Namespace
-      Class caption="[Name]" PreloadChildren
-        Member flags=f Selectable=false
-tags designer=SV.TextDesigner
-  ##SUMMARY name=Summary caption=Summary group=General xml=summary namespaces=cls,mem general
-  ##OBSOLETE name=Obsolete design=f exclude=x qualifier=name designer={None}
-items
-  proj Geometry project moniker=geo include
-    Namespace Shapes
-      ##SUMMARY "Shapes to draw." id=c1
-      Class Circle access=Public root=false
-        ##OBSOLETE status=3
-        Member Draw member access=Private overloaded
-)-");
-  EXPECT_EQ(test::ItemsText(model),
-            "Project Geometry project include\n"
-            "  Namespace Shapes\n"
-            "    ##SUMMARY \"Shapes to draw.\"\n"
-            "    Class Circle access=Public root=false\n"
-            "      ##OBSOLETE status=3\n"
-            "      Member Draw member access=Private overloaded\n");
-  EXPECT_EQ(model.Comment("c1")->TaggedCommentDef()->Caption(), "Summary");
-}
-
 QString errorOf(const QString& description) {
   try {
     ModelBuilder model(description);
@@ -210,25 +181,6 @@ TEST(ModelBuilderTest, AMistakeNamesItsLine) {
             "Model description, line 6: status takes 0 to 3: ##SUMMARY status=7");
   EXPECT_EQ(errorOf(defs + "items\n  ##SUMMARY \"Nowhere\"\n"),
             "Model description, line 5: a comment must hang under an item: ##SUMMARY \"Nowhere\"");
-  EXPECT_EQ(errorOf(defs + "items\n  Class A\n    ##S id=x\n  Class B\n    ##S id=x\n"),
-            "Model description, line 8: comment id \"x\" is used twice: ##S id=x");
-  EXPECT_EQ(errorOf(defs + "items\n  Class A moniker=m\n  Class B moniker=M\n"),
-            "Model description, line 6: This key is already associated with an element of this "
-            "collection: Class B moniker=M");
-  EXPECT_EQ(errorOf(defs + "items\n  Class A group=B\n  Class B\n"),
-            "Model description, line 5: no item \"B\" above for the group: Class A group=B");
-  EXPECT_EQ(errorOf("definitions sv.test\n  Class CanExclude=maybe\n"),
-            "Model description, line 2: CanExclude takes true or false: Class CanExclude=maybe");
-  EXPECT_EQ(errorOf("definitions sv.test\n  Class\n    @Nothing\n"),
-            "Model description, line 3: unknown definition \"Nothing\": @Nothing");
-  EXPECT_EQ(errorOf("definitions sv.test\n  Class caption\n"),
-            "Model description, line 2: caption needs a value: Class caption");
-  EXPECT_EQ(errorOf("items\n  Class A\n"),
-            "Model description, line 1: items need a definitions section above them: items");
-  EXPECT_EQ(errorOf("tags\n  ##A name=\"open\n"),
-            "Model description, line 2: a quote is not closed: ##A name=\"open");
-  EXPECT_EQ(errorOf("tags\n  ##A\n    ##B\n"),
-            "Model description, line 3: nothing may hang under this line: ##B");
   EXPECT_EQ(errorOf("\n\tdefinitions x\n"),
             "Model description, line 2: indent with spaces, not tabs: definitions x");
   EXPECT_EQ(errorOf("classes\n"),
