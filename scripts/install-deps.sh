@@ -11,7 +11,7 @@ packages=(
   libcurl4-openssl-dev
   doxygen
   libgtest-dev libgmock-dev googletest libbenchmark-dev
-  clang-format
+  clang-format ccache
   xvfb xauth fonts-dejavu-core
 )
 

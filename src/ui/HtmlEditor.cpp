@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "model/Error.h"
-#include "ui/HtmlSerializer.h"
+#include "html/HtmlSerializer.h"
 #include "ui/Keys.h"
 
 namespace sv {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "ui/HtmlDocument.h"
+#include "html/HtmlDocument.h"
 
 namespace sv {
 

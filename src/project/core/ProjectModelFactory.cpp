@@ -4,6 +4,7 @@
 #include "project/core/CommentList.h"
 #include "project/core/MemoryAppSettings.h"
 #include "project/core/ProjectComment.h"
+#include "project/attributes/AttributeStringBuilder.h"
 
 namespace sv {
 
@@ -29,7 +30,7 @@ std::shared_ptr<TaggedComments> ProjectModelFactory::NewTaggedComments() {
 }
 
 std::shared_ptr<StringBuilder> ProjectModelFactory::NewStringBuilder() {
-  notAvailable("StringBuilder");
+  return std::make_shared<AttributeStringBuilder>();
 }
 
 std::shared_ptr<ParserTemplate> ProjectModelFactory::NewParserTemplate() {

@@ -17,8 +17,8 @@ class ProjectModelFactory : public ModelFactory {
   // the settings.
   std::shared_ptr<TaggedComment> NewTaggedComment() override;
   std::shared_ptr<TaggedComments> NewTaggedComments() override;
-  // Not available until the template parser exists: each raises NotSupported.
   std::shared_ptr<StringBuilder> NewStringBuilder() override;
+  // Not available until the template parser exists: each raises NotSupported.
   std::shared_ptr<ParserTemplate> NewParserTemplate() override;
   std::shared_ptr<Example> NewExample() override;
   std::shared_ptr<sv::AppSettings> AppSettings() override { return mSettings; }

@@ -1,11 +1,11 @@
-#include "ui/HtmlSerializer.h"
+#include "html/HtmlSerializer.h"
 
 #include <QSet>
 #include <utility>
 #include <vector>
 
-#include "ui/HtmlElement.h"
-#include "ui/HtmlNode.h"
+#include "html/HtmlElement.h"
+#include "html/HtmlNode.h"
 
 namespace sv::HtmlSerializer {
 

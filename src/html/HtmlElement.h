@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/HtmlNode.h"
+#include "html/HtmlNode.h"
 
 namespace sv {
 

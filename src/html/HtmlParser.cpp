@@ -1,4 +1,4 @@
-#include "ui/HtmlParser.h"
+#include "html/HtmlParser.h"
 
 #include <gumbo.h>
 
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "model/Error.h"
-#include "ui/HtmlDocument.h"
+#include "html/HtmlDocument.h"
 
 namespace sv::HtmlParser {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/HtmlElement.h"
+#include "html/HtmlElement.h"
 
 namespace sv {
 

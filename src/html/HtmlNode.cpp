@@ -1,10 +1,10 @@
-#include "ui/HtmlNode.h"
+#include "html/HtmlNode.h"
 
 #include <algorithm>
 
 #include "model/Error.h"
-#include "ui/HtmlDocument.h"
-#include "ui/HtmlElement.h"
+#include "html/HtmlDocument.h"
+#include "html/HtmlElement.h"
 
 namespace sv {
 

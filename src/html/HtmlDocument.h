@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "ui/HtmlElement.h"
-#include "ui/HtmlNode.h"
+#include "html/HtmlElement.h"
+#include "html/HtmlNode.h"
 
 namespace sv {
 

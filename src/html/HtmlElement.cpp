@@ -1,11 +1,11 @@
-#include "ui/HtmlElement.h"
+#include "html/HtmlElement.h"
 
 #include <QSet>
 #include <algorithm>
 
 #include "model/Error.h"
-#include "ui/HtmlDocument.h"
-#include "ui/HtmlSerializer.h"
+#include "html/HtmlDocument.h"
+#include "html/HtmlSerializer.h"
 
 namespace sv {
 

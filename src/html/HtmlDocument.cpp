@@ -1,8 +1,8 @@
-#include "ui/HtmlDocument.h"
+#include "html/HtmlDocument.h"
 
 #include "model/Error.h"
-#include "ui/HtmlParser.h"
-#include "ui/HtmlSerializer.h"
+#include "html/HtmlParser.h"
+#include "html/HtmlSerializer.h"
 
 namespace sv {
 

@@ -1,4 +1,4 @@
-#include "ui/HtmlDocument.h"
+#include "html/HtmlDocument.h"
 
 #include <gtest/gtest.h>
 
